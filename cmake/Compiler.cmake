@@ -1,0 +1,30 @@
+# The dialect and the floating-point rules that every target of the tree shares.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(qzcore_build_rules INTERFACE)
+# Results that are fixed to single precision must not change with the target:
+# no fused multiply-add, and no basic-block vectorizer in GCC 12, which drops
+# neighbouring roundings to float.
+target_compile_options(qzcore_build_rules INTERFACE
+  -ffp-contract=off
+  $<$<CXX_COMPILER_ID:GNU>:-fno-tree-slp-vectorize>)
+
+option(QZCORE_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+add_library(qzcore_warnings INTERFACE)
+target_compile_options(qzcore_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  $<$<BOOL:${QZCORE_WARNINGS_AS_ERRORS}>:-Werror>)

@@ -1,0 +1,137 @@
+// Fonts: what the library needs to know of the installed ones.
+//
+// A `Font` is a plain value that names a face at a size. A `FontCatalog` lists
+// the families that are installed, with their faces, measures texts and knows
+// which characters a font shows. The catalogue of the machine is the default;
+// `InMemoryFontCatalog` is a made-up one that is the same everywhere.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "QZCore/export.h"
+#include "QZCore/foundation/text.h"
+
+namespace QZCore {
+
+/// Trait bits of a font, and the two values that ask a conversion to take a
+/// trait away.
+enum FontTraits : std::uint32_t {
+    kFontItalic = 1,
+    kFontBold = 2,
+    kFontUnbold = 4,
+    kFontUnitalic = 16777216,
+};
+
+/// The weight of a regular face on the scale from 0 (thinnest) to 15.
+inline constexpr int kFontRegularWeight = 5;
+
+/// A face at a size.
+struct Font {
+    /// The family, as "DejaVu Sans".
+    String familyName;
+    /// The unique name of the face, as "DejaVuSans-Bold", by which it can be
+    /// looked up again.
+    String faceName;
+    /// The size in points.
+    double pointSize = 12;
+    /// The sum of `kFontItalic` and `kFontBold` as far as they apply.
+    std::uint32_t traits = 0;
+    /// The weight from 0 to 15; 5 is regular, 9 is bold.
+    int weight = kFontRegularWeight;
+
+    /// Exact comparison of all fields.
+    friend bool operator==(const Font&, const Font&) = default;
+};
+
+/// A number that is the same for equal fonts.
+[[nodiscard]] QZ_EXPORT std::size_t hashOf(const Font& font);
+/// The face name and the size.
+[[nodiscard]] QZ_EXPORT String descriptionOf(const Font& font);
+
+/// One face of a family.
+struct FontMember {
+    /// The unique name, unique among all installed faces.
+    String uniqueName;
+    /// The full name for people, as "DejaVu Sans Bold".
+    String fullName;
+    /// The name within the family, as "Regular" or "Bold Italic".
+    String faceName;
+    /// The sum of `kFontItalic` and `kFontBold` as far as they apply.
+    std::uint32_t traits = 0;
+    /// The weight from 0 to 15; 5 is regular.
+    int weight = kFontRegularWeight;
+
+    /// Exact comparison of all fields.
+    friend bool operator==(const FontMember&, const FontMember&) = default;
+};
+
+/// The fonts that are installed. Every operation may be called from any
+/// thread; none logs. Names are compared exactly.
+class QZ_EXPORT FontCatalog {
+public:
+    virtual ~FontCatalog();
+
+    /// The names of all families, sorted by code unit.
+    [[nodiscard]] virtual std::vector<String> availableFamilies() const = 0;
+
+    /// The faces of `family` in a fixed order, regular upright faces first;
+    /// empty when the family is not installed. Faces that would only be
+    /// imitated (a slanted regular face, say) are not listed.
+    [[nodiscard]] virtual std::vector<FontMember> membersOfFamily(StringView family) const = 0;
+
+    /// The face whose unique or full name is `name`, at `size`; nothing when
+    /// there is none.
+    [[nodiscard]] virtual std::optional<Font> fontNamed(StringView name, double size) const = 0;
+
+    /// The user's default font at `size`. Always a font, even where none is
+    /// installed.
+    [[nodiscard]] virtual Font userFont(double size) const = 0;
+
+    /// The advance width of one line of text in points, without rounding. A
+    /// font that is not installed is measured in the nearest one that is.
+    [[nodiscard]] virtual double widthOfText(StringView text, const Font& font) const = 0;
+
+    /// Whether the font itself has a glyph for `character`. Control and
+    /// format characters count as shown by every font.
+    [[nodiscard]] virtual bool showsCharacter(const Font& font, char32_t character) const = 0;
+
+    /// A font of the same size, as near as possible in traits and weight, that
+    /// shows `character`; nothing when no installed font does.
+    [[nodiscard]] virtual std::optional<Font> substituteFor(const Font& font,
+                                                            char32_t character) const = 0;
+};
+
+/// The catalogue that the library uses: the machine's own fonts where the
+/// library was built with them, else the made-up one, unless the application
+/// has set another.
+[[nodiscard]] QZ_EXPORT std::shared_ptr<const FontCatalog> sharedFontCatalog();
+
+/// Makes `catalog` the one that the library uses; an empty pointer brings the
+/// default back. Returns the one before.
+QZ_EXPORT std::shared_ptr<const FontCatalog> setSharedFontCatalog(
+    std::shared_ptr<const FontCatalog> catalog);
+
+/// A family of a made-up catalogue.
+struct InMemoryFontFamily {
+    /// Its name.
+    String name;
+    /// Its faces.
+    std::vector<FontMember> members;
+    /// The advance of every code point at a size of 1 point.
+    double advance = 0.5;
+    /// The code points that its faces show, as inclusive bounds; all of them
+    /// when empty.
+    std::vector<std::pair<char32_t, char32_t>> coverage;
+};
+
+/// Makes a catalogue of the given families, the first of which is the user's.
+/// Without families it holds a small fixed selection: a sans serif, a serif and
+/// a fixed-width family with four faces each, one family with a regular face
+/// only, and a symbol family that alone shows emoji.
+[[nodiscard]] QZ_EXPORT std::shared_ptr<const FontCatalog> makeInMemoryFontCatalog(
+    std::vector<InMemoryFontFamily> families = {});
+
+}  // namespace QZCore

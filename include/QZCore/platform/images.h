@@ -1,0 +1,58 @@
+// Images: their bytes, their size and their type.
+//
+// The library shows no images; it has to know whether bytes are one, and how
+// large it is. Every operation may be called from any thread.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "QZCore/export.h"
+#include "QZCore/foundation/data.h"
+
+namespace QZCore {
+
+/// An encoded image that was found to be whole.
+struct Image {
+    /// The bytes as they came.
+    Data data;
+    /// The media type, as "image/png".
+    String mediaType;
+    /// The size in points: pixels, unless a size was asked for.
+    double width = 0;
+    double height = 0;
+    /// Whether this is the caution image that stands for a missing one.
+    bool isCaution = false;
+
+    /// Exact comparison of all fields.
+    friend bool operator==(const Image&, const Image&) = default;
+};
+
+/// A number that is the same for equal images.
+[[nodiscard]] QZ_EXPORT std::size_t hashOf(const Image& image);
+
+/// Reads images.
+class QZ_EXPORT ImageDecoder {
+public:
+    virtual ~ImageDecoder();
+
+    /// The image that `bytes` hold, decoded once to be sure; nothing when they
+    /// are no image, are cut off or damaged, or hold more than 40 million
+    /// pixels.
+    [[nodiscard]] virtual std::optional<Image> decode(DataView bytes) const = 0;
+};
+
+/// The decoder that the library uses. Where the library was built without one
+/// and the application has set none, nothing is an image.
+[[nodiscard]] QZ_EXPORT std::shared_ptr<const ImageDecoder> sharedImageDecoder();
+
+/// Makes `decoder` the one that the library uses; an empty pointer brings the
+/// default back. Returns the one before.
+QZ_EXPORT std::shared_ptr<const ImageDecoder> setSharedImageDecoder(
+    std::shared_ptr<const ImageDecoder> decoder);
+
+/// The image that stands for one that cannot be shown: a warning triangle of
+/// 32 by 32 points.
+[[nodiscard]] QZ_EXPORT const Image& cautionImage();
+
+}  // namespace QZCore

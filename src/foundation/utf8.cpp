@@ -1,0 +1,117 @@
+#include "QZCore/foundation/text.h"
+
+namespace QZCore {
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+/// What a lead byte announces: how many bytes follow, and the bounds of the
+/// first of them, which exclude overlong forms, surrogates and values beyond
+/// U+10FFFF (Unicode 15, table 3-7).
+struct Lead {
+    int followers = 0;
+    std::uint8_t low = 0x80;
+    std::uint8_t high = 0xBF;
+};
+
+Lead leadOf(std::uint8_t byte) {
+    if (byte >= 0xC2 && byte <= 0xDF) return {1};
+    if (byte == 0xE0) return {2, 0xA0, 0xBF};
+    if (byte == 0xED) return {2, 0x80, 0x9F};
+    if (byte >= 0xE1 && byte <= 0xEF) return {2};
+    if (byte == 0xF0) return {3, 0x90, 0xBF};
+    if (byte >= 0xF1 && byte <= 0xF3) return {3};
+    if (byte == 0xF4) return {3, 0x80, 0x8F};
+    return {};
+}
+
+/// The code point behind a byte that is not ASCII; moves `at` behind it, or
+/// behind the longest piece that could have become one.
+char32_t decodeMultibyte(std::string_view bytes, std::size_t& at) {
+    const auto lead = static_cast<std::uint8_t>(bytes[at++]);
+    const Lead rule = leadOf(lead);
+    if (rule.followers == 0) return kReplacement;
+    char32_t value = lead & (0x3FU >> rule.followers);
+    for (int i = 0; i < rule.followers; ++i) {
+        if (at == bytes.size()) return kReplacement;
+        const auto byte = static_cast<std::uint8_t>(bytes[at]);
+        const std::uint8_t low = i == 0 ? rule.low : 0x80;
+        const std::uint8_t high = i == 0 ? rule.high : 0xBF;
+        if (byte < low || byte > high) return kReplacement;
+        value = (value << 6) | (byte & 0x3FU);
+        ++at;
+    }
+    return value;
+}
+
+void appendUTF8(std::string& bytes, char32_t value) {
+    const auto add = [&bytes](char32_t byte) { bytes.push_back(static_cast<char>(byte)); };
+    if (value < 0x80) {
+        add(value);
+    } else if (value < 0x800) {
+        add(0xC0 | (value >> 6));
+        add(0x80 | (value & 0x3F));
+    } else if (value < 0x10000) {
+        add(0xE0 | (value >> 12));
+        add(0x80 | ((value >> 6) & 0x3F));
+        add(0x80 | (value & 0x3F));
+    } else {
+        add(0xF0 | (value >> 18));
+        add(0x80 | ((value >> 12) & 0x3F));
+        add(0x80 | ((value >> 6) & 0x3F));
+        add(0x80 | (value & 0x3F));
+    }
+}
+
+}  // namespace
+
+String fromUTF8(std::string_view bytes) {
+    String text;
+    text.reserve(bytes.size());
+    std::size_t at = 0;
+    while (at < bytes.size()) {
+        const auto byte = static_cast<std::uint8_t>(bytes[at]);
+        if (byte < 0x80) {
+            text.push_back(static_cast<char16_t>(byte));
+            ++at;
+        } else {
+            appendCodePoint(text, decodeMultibyte(bytes, at));
+        }
+    }
+    return text;
+}
+
+std::string toUTF8(StringView text) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const CodePoint point = codePointAt(text, at);
+        const bool unpaired = point.value >= 0xD800 && point.value <= 0xDFFF;
+        appendUTF8(bytes, unpaired ? kReplacement : point.value);
+        at += point.length;
+    }
+    return bytes;
+}
+
+CodePoint codePointAt(StringView text, std::size_t index) {
+    const char16_t unit = text[index];
+    if (!isHighSurrogate(unit) || index + 1 == text.size() || !isLowSurrogate(text[index + 1])) {
+        return {unit, 1};
+    }
+    const char32_t high = unit - 0xD800U;
+    const char32_t low = text[index + 1] - 0xDC00U;
+    return {0x10000 + (high << 10) + low, 2};
+}
+
+void appendCodePoint(String& text, char32_t codePoint) {
+    if (codePoint > 0x10FFFF) codePoint = kReplacement;
+    if (codePoint < 0x10000) {
+        text.push_back(static_cast<char16_t>(codePoint));
+        return;
+    }
+    const char32_t offset = codePoint - 0x10000;
+    text.push_back(static_cast<char16_t>(0xD800 + (offset >> 10)));
+    text.push_back(static_cast<char16_t>(0xDC00 + (offset & 0x3FF)));
+}
+
+}  // namespace QZCore
