@@ -1,0 +1,222 @@
+// RichText: UTF-16 text whose stretches carry attributes.
+//
+// A rich text is a value. Copies are cheap: they share their contents until
+// one of them is changed. The text is cut into runs, each with one set of
+// attributes; two neighbouring runs never have equal sets.
+//
+// Look-ups and edits cost the logarithm of the length, or less near the last
+// edit. Edits take any range: what lies beyond the end of the text is ignored.
+//
+// Different threads may read one rich text at the same time, and may change
+// different copies.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "QZCore/export.h"
+#include "QZCore/foundation/range.h"
+#include "QZCore/foundation/text.h"
+#include "QZCore/richtext/text_attributes.h"
+
+namespace QZCore {
+
+/// A stretch of a text with one set of attributes.
+struct TextRun {
+    Range range;
+    TextAttributes attributes;
+};
+
+/// Text with attributes.
+class QZ_EXPORT RichText {
+public:
+    // ---- Making ----
+
+    /// An empty text.
+    RichText();
+    /// `text`, all of it with `attributes`.
+    explicit RichText(StringView text, const TextAttributes& attributes = {});
+
+    // ---- Reading ----
+
+    /// The number of UTF-16 units.
+    [[nodiscard]] std::size_t length() const;
+    /// Whether there is no text.
+    [[nodiscard]] bool empty() const { return length() == 0; }
+    /// The plain text, as a copy.
+    [[nodiscard]] String string() const;
+    /// The plain text in `range`, as a copy.
+    [[nodiscard]] String string(Range range) const;
+    /// The unit at `index`; U+0000 at or beyond the end.
+    [[nodiscard]] char16_t characterAtIndex(std::size_t index) const;
+
+    /// The run that contains `index`, as far as it reaches; an empty run at the
+    /// end of the text for an index at or beyond it.
+    [[nodiscard]] TextRun runAtIndex(std::size_t index) const;
+    /// The attributes at `index`; none at or beyond the end.
+    [[nodiscard]] TextAttributes attributesAtIndex(std::size_t index) const;
+
+    /// A value and the longest stretch around a position over which it is the
+    /// same.
+    struct AttributeRange {
+        Value value;
+        Range range;
+    };
+    /// The value of the attribute `name` at `index`, absent included, and the
+    /// longest range around `index` within `inRange` over which it is equal.
+    /// An index outside of `inRange` or of the text gives an empty range.
+    [[nodiscard]] AttributeRange attributeAtIndex(StringView name, std::size_t index,
+                                                  Range inRange) const;
+    /// The same within the whole text.
+    [[nodiscard]] AttributeRange attributeAtIndex(StringView name, std::size_t index) const;
+
+    /// The part in `range` with its attributes.
+    [[nodiscard]] RichText attributedSubstringFromRange(Range range) const;
+
+    /// Whether both have the same text and the same attributes everywhere.
+    [[nodiscard]] QZ_EXPORT bool operator==(const RichText& other) const;
+
+    // ---- Walking the runs ----
+
+    class RunIterator;
+    class RunSequence;
+
+    /// The runs in order, for a loop. The walk shows the text as it was when
+    /// this was called, even when the text changes meanwhile.
+    [[nodiscard]] RunSequence runs() const;
+    /// The runs that touch `range`, cut to it.
+    [[nodiscard]] RunSequence runs(Range range) const;
+    /// The number of runs. Walks all of them.
+    [[nodiscard]] std::size_t numberOfRuns() const;
+
+    // ---- Changing the text ----
+
+    /// Replaces the text in `range`. The new text takes the attributes of the
+    /// first replaced unit; inserted text those of the unit before it, or at
+    /// the start those of the unit after it.
+    void replaceCharactersInRange(Range range, StringView withString);
+    /// Replaces the part in `range` by another text with its own attributes.
+    void replaceCharactersInRange(Range range, const RichText& withAttributedString);
+    /// Inserts another text before `atIndex`.
+    void insertAttributedString(const RichText& string, std::size_t atIndex);
+    /// Appends another text.
+    void appendAttributedString(const RichText& string);
+    /// Deletes the text in `range`.
+    void deleteCharactersInRange(Range range);
+
+    // ---- Changing attributes ----
+
+    /// Replaces all attributes in `range`.
+    void setAttributes(const TextAttributes& attributes, Range range);
+    /// Sets one attribute in `range`; an absent value removes it.
+    void addAttribute(StringView name, const Value& value, Range range);
+    /// Sets the given attributes in `range` and keeps the others.
+    void addAttributes(const TextAttributes& attributes, Range range);
+    /// Removes one attribute in `range`.
+    void removeAttribute(StringView name, Range range);
+
+    // ---- Editing in batches ----
+
+    /// Opens a batch of edits. Batches nest.
+    void beginEditing();
+    /// Closes a batch of edits. When the outermost closes, the attributes of
+    /// the paragraphs that were changed are fixed. Without an open batch
+    /// nothing happens.
+    void endEditing();
+
+    /// Makes the attributes of all paragraphs that `range` touches consistent:
+    /// a font that cannot show a character is replaced, for that character, by
+    /// one that can; all of a paragraph takes the paragraph style of its first
+    /// character; attachments stay only on `kAttachmentCharacter`.
+    void fixAttributesInRange(Range range);
+
+    // ---- Life ----
+
+    /// A copy has no open batch of edits.
+    RichText(const RichText& other);
+    RichText(RichText&& other) noexcept;
+    RichText& operator=(const RichText& other);
+    RichText& operator=(RichText&& other) noexcept;
+    ~RichText();
+
+private:
+    class Store;
+    friend struct FlatTextAccess;
+
+    Store& changeableStore();
+    void noteEdit(Range range, std::size_t newLength);
+
+    std::shared_ptr<Store> store_;
+    // The edits of the open batch leave this many units untouched at the start
+    // and at the end.
+    std::size_t untouchedPrefix_ = 0;
+    std::size_t untouchedSuffix_ = 0;
+    bool edited_ = false;
+    int editingDepth_ = 0;
+};
+
+/// A batch of edits that closes with its scope.
+class QZ_EXPORT RichTextEditing {
+public:
+    /// Opens a batch on `text`, which must outlive it.
+    explicit RichTextEditing(RichText& text) : text_(text) { text_.beginEditing(); }
+    ~RichTextEditing() { text_.endEditing(); }
+    RichTextEditing(const RichTextEditing&) = delete;
+    RichTextEditing& operator=(const RichTextEditing&) = delete;
+
+private:
+    RichText& text_;
+};
+
+/// A run as a walk shows it; the attributes belong to the text.
+struct TextRunView {
+    Range range;
+    const TextAttributes& attributes;
+};
+
+/// Walks the runs of a text from one to the next.
+class QZ_EXPORT RichText::RunIterator {
+public:
+    /// The run that the walk has reached.
+    [[nodiscard]] TextRunView operator*() const { return {range_, *attributes_}; }
+    /// Goes on to the next run.
+    RunIterator& operator++();
+    /// Whether both have reached the same place.
+    [[nodiscard]] bool operator==(const RunIterator& other) const {
+        return range_.location == other.range_.location;
+    }
+
+private:
+    friend class RunSequence;
+    RunIterator(const Store& store, Range range);
+
+    void readRun(std::size_t start);
+
+    const Store* store_;
+    std::size_t end_;
+    std::size_t piece_ = 0;
+    std::size_t run_ = 0;
+    std::size_t pieceStart_ = 0;
+    Range range_;
+    const TextAttributes* attributes_ = nullptr;
+};
+
+/// The runs of a text, for a loop.
+class QZ_EXPORT RichText::RunSequence {
+public:
+    /// The first run.
+    [[nodiscard]] RunIterator begin() const;
+    /// The end of the walk.
+    [[nodiscard]] RunIterator end() const;
+
+private:
+    friend class RichText;
+    RunSequence(std::shared_ptr<const Store> store, Range range)
+        : store_(std::move(store)), range_(range) {}
+
+    std::shared_ptr<const Store> store_;
+    Range range_;
+};
+
+}  // namespace QZCore

@@ -1,0 +1,43 @@
+#include "richtext/flat_text.h"
+
+#include <utility>
+
+#include "richtext/store.h"
+
+namespace QZCore {
+
+FlatText FlatTextAccess::flattened(const RichText& text, Range range) {
+    FlatText flat;
+    range = clampedRange(range, text.length());
+    flat.text = text.string(range);
+    flat.palette = text.store_->palette();
+    if (range.length == 0) return flat;
+    const RichText::Store& store = *text.store_;
+    RichText::Store::Place place = store.placeOf(range.location);
+    std::size_t run = store.piece(place.piece).runAt(range.location - place.pieceStart);
+    for (std::size_t at = range.location; at < range.end(); ++place.piece, run = 0) {
+        const Piece& piece = store.piece(place.piece);
+        for (; run < piece.runs().size() && at < range.end(); ++run) {
+            at = std::min(place.pieceStart + piece.runEnd(run), range.end());
+            appendRun(flat.runs, static_cast<std::uint32_t>(at - range.location),
+                      piece.runs()[run].id);
+        }
+        place.pieceStart += piece.length();
+    }
+    return flat;
+}
+
+void FlatTextAccess::replaceContents(RichText& text, FlatText contents) {
+    text.noteEdit({0, text.length()}, contents.text.size());
+    auto store = std::make_shared<RichText::Store>();
+    store->setPalette(std::move(contents.palette));
+    std::uint32_t at = 0;
+    for (const FlatRun& run : contents.runs) {
+        store->appendNumbered(StringView(contents.text).substr(at, run.end - at), run.id);
+        at = run.end;
+    }
+    store->finishBuilding();
+    text.store_ = std::move(store);
+}
+
+}  // namespace QZCore

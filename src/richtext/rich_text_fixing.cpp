@@ -1,0 +1,63 @@
+#include "QZCore/platform/fonts.h"
+#include "QZCore/richtext/rich_text.h"
+#include "richtext/attribute_fixing.h"
+
+namespace QZCore {
+namespace {
+
+constexpr std::size_t kStep = 1024;
+
+/// The start of the paragraph that holds `position`.
+std::size_t paragraphStart(const RichText& text, std::size_t position) {
+    while (position > 0) {
+        const std::size_t from = position > kStep ? position - kStep : 0;
+        // One unit more, to tell a carriage return alone from one before a
+        // line feed.
+        const String part = text.string({from, position - from + 1});
+        for (std::size_t at = position - from; at > 0; --at) {
+            if (paragraphEndsBefore(part, at)) return from + at;
+        }
+        position = from;
+    }
+    return 0;
+}
+
+/// The end of the paragraph that is open before `position`.
+std::size_t paragraphEnd(const RichText& text, std::size_t position) {
+    while (position < text.length()) {
+        const std::size_t from = position == 0 ? 0 : position - 1;
+        const String part = text.string({from, kStep});
+        for (std::size_t at = position - from; at < part.size(); ++at) {
+            if (at > 0 && paragraphEndsBefore(part, at)) return from + at;
+        }
+        position = from + part.size();
+    }
+    return text.length();
+}
+
+}  // namespace
+
+void RichText::fixAttributesInRange(Range range) {
+    range = clampedRange(range, length());
+    if (edited_ && range.location <= untouchedPrefix_ &&
+        length() - range.end() <= untouchedSuffix_) {
+        edited_ = false;  // closing the batch has nothing left to do
+    }
+    const std::size_t start = paragraphStart(*this, range.location);
+    const std::size_t end = paragraphEnd(*this, range.end());
+    if (start == end || end - start >= kFlatTextLimit) return;
+    const FlatText before = FlatTextAccess::flattened(*this, {start, end - start});
+    FlatText fixed = before;
+    fixAttributes(fixed, *sharedFontCatalog());
+    if (fixed.runs == before.runs) return;
+    const int depth = std::exchange(editingDepth_, 0);  // no edit to fix again
+    std::size_t at = start;
+    for (const FlatRun& run : fixed.runs) {
+        const std::size_t runEnd = start + run.end;
+        setAttributes(fixed.palette.at(run.id), {at, runEnd - at});
+        at = runEnd;
+    }
+    editingDepth_ = depth;
+}
+
+}  // namespace QZCore
