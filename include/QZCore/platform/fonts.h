@@ -6,9 +6,11 @@
 // `InMemoryFontCatalog` is a made-up one that is the same everywhere.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "QZCore/export.h"
@@ -25,8 +27,13 @@ enum FontTraits : std::uint32_t {
     kFontUnitalic = 16777216,
 };
 
-/// The weight of a regular face on the scale from 0 (thinnest) to 15.
+/// The weight of a regular face on the scale from 0 (thinnest) to 15. Semibold
+/// is 8, bold is 9, black is 12; a face has the bold trait from 8 on.
 inline constexpr int kFontRegularWeight = 5;
+
+/// The size in points that every operation takes in place of one that is not
+/// positive and finite.
+inline constexpr double kFontDefaultSize = 12;
 
 /// A face at a size.
 struct Font {
@@ -36,10 +43,10 @@ struct Font {
     /// looked up again.
     String faceName;
     /// The size in points.
-    double pointSize = 12;
+    double pointSize = kFontDefaultSize;
     /// The sum of `kFontItalic` and `kFontBold` as far as they apply.
     std::uint32_t traits = 0;
-    /// The weight from 0 to 15; 5 is regular, 9 is bold.
+    /// The weight from 0 to 15; 5 is regular.
     int weight = kFontRegularWeight;
 
     /// Exact comparison of all fields.
@@ -70,11 +77,15 @@ struct FontMember {
 
 /// The fonts that are installed. Every operation may be called from any
 /// thread; none logs. Names are compared exactly.
+///
+/// A `Font` that is not installed stands for the nearest one that is: the face
+/// of its family next to it in traits and weight or, where the family is
+/// missing too, that face of the user's family.
 class QZ_EXPORT FontCatalog {
 public:
     virtual ~FontCatalog();
 
-    /// The names of all families, sorted by code unit.
+    /// The names of all families, sorted by code unit, each once.
     [[nodiscard]] virtual std::vector<String> availableFamilies() const = 0;
 
     /// The faces of `family` in a fixed order, regular upright faces first;
@@ -82,24 +93,29 @@ public:
     /// imitated (a slanted regular face, say) are not listed.
     [[nodiscard]] virtual std::vector<FontMember> membersOfFamily(StringView family) const = 0;
 
-    /// The face whose unique or full name is `name`, at `size`; nothing when
-    /// there is none.
+    /// The face whose unique name is `name` or else the one whose full name it
+    /// is, at `size`; nothing when there is none.
     [[nodiscard]] virtual std::optional<Font> fontNamed(StringView name, double size) const = 0;
 
     /// The user's default font at `size`. Always a font, even where none is
     /// installed.
     [[nodiscard]] virtual Font userFont(double size) const = 0;
 
-    /// The advance width of one line of text in points, without rounding. A
-    /// font that is not installed is measured in the nearest one that is.
+    /// The advance width of one line of text in points, without rounding;
+    /// finite and never negative. Control characters take no room, and an
+    /// unpaired surrogate is measured as U+FFFD.
     [[nodiscard]] virtual double widthOfText(StringView text, const Font& font) const = 0;
 
-    /// Whether the font itself has a glyph for `character`. Control and
-    /// format characters count as shown by every font.
+    /// Whether the font itself has a glyph for `character`. Characters that
+    /// need none count as shown by every font: control and format characters,
+    /// variation selectors and other ignorable ones, line and paragraph
+    /// separators, and U+FFFC, which stands for an attachment. Surrogates and
+    /// values beyond U+10FFFF are shown by none.
     [[nodiscard]] virtual bool showsCharacter(const Font& font, char32_t character) const = 0;
 
     /// A font of the same size, as near as possible in traits and weight, that
-    /// shows `character`; nothing when no installed font does.
+    /// shows `character`: `font` itself when it does; nothing when no
+    /// installed font does.
     [[nodiscard]] virtual std::optional<Font> substituteFor(const Font& font,
                                                             char32_t character) const = 0;
 };
@@ -110,7 +126,7 @@ public:
 [[nodiscard]] QZ_EXPORT std::shared_ptr<const FontCatalog> sharedFontCatalog();
 
 /// Makes `catalog` the one that the library uses; an empty pointer brings the
-/// default back. Returns the one before.
+/// default back. Returns the one that was set before, empty for the default.
 QZ_EXPORT std::shared_ptr<const FontCatalog> setSharedFontCatalog(
     std::shared_ptr<const FontCatalog> catalog);
 
@@ -118,7 +134,7 @@ QZ_EXPORT std::shared_ptr<const FontCatalog> setSharedFontCatalog(
 struct InMemoryFontFamily {
     /// Its name.
     String name;
-    /// Its faces.
+    /// Its faces, in the order in which they are listed.
     std::vector<FontMember> members;
     /// The advance of every code point at a size of 1 point.
     double advance = 0.5;
@@ -128,9 +144,29 @@ struct InMemoryFontFamily {
 };
 
 /// Makes a catalogue of the given families, the first of which is the user's.
-/// Without families it holds a small fixed selection: a sans serif, a serif and
-/// a fixed-width family with four faces each, one family with a regular face
-/// only, and a symbol family that alone shows emoji.
+/// A family without faces is left out, and so is one whose name came before.
+/// Substitutes are sought in the given order.
+///
+/// Where that leaves none it holds this selection, in this order:
+///
+/// | Family  | Faces (weight)                                         | Advance |
+/// |---------|--------------------------------------------------------|---------|
+/// | Sans    | Regular (5), Bold (9), Italic (5), Bold Italic (9)     | 0.5     |
+/// | Serif   | Regular (5), Bold (9), Italic (5), Bold Italic (9)     | 0.4375  |
+/// | Mono    | Regular (5), Bold (9), Italic (5), Bold Italic (9)     | 0.625   |
+/// | Plain   | Regular (5)                                            | 0.5     |
+/// | Heavy   | Regular (5), Semibold (8), Bold Italic (9)             | 0.5625  |
+/// | Grotesk | Regular (5), Demibold (8), Black (12), Oblique (5)     | 0.5     |
+/// | Symbols | Regular (5)                                            | 1.25    |
+///
+/// The unique name of a face is the family and the face name with its spaces
+/// taken out, joined by a hyphen ("Sans-BoldItalic"); the full name is both
+/// joined by a space ("Sans Bold Italic"), except that the full name of the one
+/// face of Plain is "Plain". Oblique faces have the italic trait.
+///
+/// Symbols alone shows U+2600 to U+27BF and U+1F000 to U+1FAFF, and shows
+/// nothing else. All other families show the rest of U+0000 to U+FFFF. So
+/// U+20000, say, is shown by no font.
 [[nodiscard]] QZ_EXPORT std::shared_ptr<const FontCatalog> makeInMemoryFontCatalog(
     std::vector<InMemoryFontFamily> families = {});
 

@@ -1,0 +1,60 @@
+#include "QZCore/platform/fonts.h"
+
+#include <functional>
+#include <mutex>
+#include <utility>
+
+#include "foundation/hash.h"
+
+namespace QZCore {
+namespace {
+
+/// Made when it is first needed: reading the list of fonts takes a while.
+const std::shared_ptr<const FontCatalog>& defaultCatalog() {
+    static const auto& catalog = *new std::shared_ptr<const FontCatalog>(makeInMemoryFontCatalog());
+    return catalog;
+}
+
+struct Current {
+    std::mutex mutex;
+    std::shared_ptr<const FontCatalog> catalog;
+};
+
+Current& current() {
+    static Current& instance = *new Current;
+    return instance;
+}
+
+}  // namespace
+
+FontCatalog::~FontCatalog() = default;
+
+std::size_t hashOf(const Font& font) {
+    std::size_t seed = hashText(font.familyName);
+    seed = hashCombine(seed, hashText(font.faceName));
+    seed = hashCombine(seed, std::hash<double>{}(font.pointSize));
+    seed = hashCombine(seed, font.traits);
+    return hashCombine(seed, static_cast<std::size_t>(font.weight));
+}
+
+String descriptionOf(const Font& font) {
+    return font.faceName + u" " + shortestString(font.pointSize);
+}
+
+std::shared_ptr<const FontCatalog> sharedFontCatalog() {
+    Current& state = current();
+    {
+        const std::lock_guard lock(state.mutex);
+        if (state.catalog != nullptr) return state.catalog;
+    }
+    return defaultCatalog();
+}
+
+std::shared_ptr<const FontCatalog> setSharedFontCatalog(
+    std::shared_ptr<const FontCatalog> catalog) {
+    Current& state = current();
+    const std::lock_guard lock(state.mutex);
+    return std::exchange(state.catalog, std::move(catalog));
+}
+
+}  // namespace QZCore
