@@ -42,12 +42,17 @@ public:
     [[nodiscard]] virtual std::optional<Image> decode(DataView bytes) const = 0;
 };
 
-/// The decoder that the library uses. Where the library was built without one
-/// and the application has set none, nothing is an image.
+/// Makes the decoder of the platform; empty when the library was built without
+/// one.
+[[nodiscard]] QZ_EXPORT std::shared_ptr<const ImageDecoder> makePlatformImageDecoder();
+
+/// The decoder that the library uses: the platform's, unless the application
+/// has set another. Where the library was built without one, nothing is an
+/// image.
 [[nodiscard]] QZ_EXPORT std::shared_ptr<const ImageDecoder> sharedImageDecoder();
 
-/// Makes `decoder` the one that the library uses; an empty pointer brings the
-/// default back. Returns the one before.
+/// Makes `decoder` the one that the library uses and returns the one set
+/// before. An empty pointer stands for the default, in both directions.
 QZ_EXPORT std::shared_ptr<const ImageDecoder> setSharedImageDecoder(
     std::shared_ptr<const ImageDecoder> decoder);
 

@@ -75,8 +75,8 @@ struct UrlCacheSettings {
 /// set another. Where the library was built without one, every fetch fails.
 [[nodiscard]] QZ_EXPORT std::shared_ptr<UrlLoader> sharedUrlLoader();
 
-/// Makes `loader` the one that the library uses; an empty pointer brings the
-/// default back. Returns the one before.
+/// Makes `loader` the one that the library uses and returns the one set before.
+/// An empty pointer stands for the default, in both directions.
 QZ_EXPORT std::shared_ptr<UrlLoader> setSharedUrlLoader(std::shared_ptr<UrlLoader> loader);
 
 /// Makes a loader that refuses every fetch, for applications that must not
