@@ -2,8 +2,9 @@
 //
 // A compiled expression is immutable and may be used from any thread. Matching
 // ends on every input: each search has a budget of work (`kDefaultMatchBudget`
-// by default); when it is used up, that match and all later ones of the same
-// search count as not found.
+// by default) that grows with the length of its text; when it is used up, that
+// match and all later ones of the same search count as not found. So do all
+// matches in a text of 2^31 units or more.
 #pragma once
 
 #include <cstddef>
@@ -42,15 +43,18 @@ struct RegexMatch {
     friend bool operator==(const RegexMatch&, const RegexMatch&) = default;
 };
 
-/// The work that one search step may cost, in the engine's units of some
-/// thousand steps: about a second.
+/// The work that one search may cost, in units of ten thousand steps of the
+/// engine: about a second. Every thousand units of the text add one unit of
+/// work, so that long texts and patterns that take a few steps for each
+/// character get along. The same number of milliseconds bounds the time.
 inline constexpr std::int32_t kDefaultMatchBudget = 5000;
 
 /// A compiled regular expression.
 class QZ_EXPORT RegularExpression {
 public:
     /// Compiles `pattern` with the sum of `RegexOptions`; nothing when the
-    /// pattern is not well-formed or an option is unknown.
+    /// pattern is not well-formed or an option bit is unknown. A budget below 1
+    /// counts as 1.
     [[nodiscard]] static std::optional<RegularExpression> compile(
         StringView pattern, std::uint32_t options = kRegexNoOptions,
         std::int32_t budget = kDefaultMatchBudget);
@@ -85,8 +89,11 @@ public:
     [[nodiscard]] std::size_t numberOfMatchesInString(StringView text) const;
     /// The whole text with every match in `range` replaced by `withTemplate`,
     /// in which "$0" to "$9" and longer group numbers stand for the groups and
-    /// a backslash takes the next character as it is. A reference to a group
-    /// that the expression does not have stands for nothing.
+    /// a backslash takes the next unit as it is. A group number goes on as long
+    /// as the expression has such a group, so "$12" is group 1 and a "2" where
+    /// there are fewer than twelve. A reference to a group that the expression
+    /// does not have, or that took no part, stands for nothing; a "$" before
+    /// anything but a digit stands for itself.
     [[nodiscard]] String stringByReplacingMatchesInString(StringView text, Range range,
                                                           StringView withTemplate) const;
     /// The same over the whole text.
