@@ -1,5 +1,9 @@
 # Every installed header, one by one.
 set(QZCORE_PUBLIC_HEADERS
+  color.h
+  color/color.h
+  color/named_colors.h
+  color/stored_colors.h
   export.h
   foundation.h
   foundation/data.h
