@@ -1,6 +1,9 @@
 #include "QZCore/color/color.h"
 
 #include <functional>
+
+#include "QZCore/foundation/preferences.h"
+#include "color/system_colors.h"
 #include "foundation/hash.h"
 
 namespace QZCore {
@@ -17,7 +20,23 @@ Color Color::colorWithCalibrated255White(double white, double alpha) {
     return colorWithCalibratedWhite(white / 255.0, alpha);
 }
 
+Color Color::textColor() { return kTextColor; }
+
+Color Color::controlBlueColor() { return kControlAccentColor; }
+
 bool Color::isClearColor() const { return fixed_ == Fixed::Clear; }
+
+bool Color::isWhiteColor() const {
+    if (fixed_ == Fixed::White) return true;
+    return Preferences::shared().boolForKey(u"isWhiteColor Compare Strings") &&
+           stringForColor() == whiteColorAsString();
+}
+
+bool Color::isBlackColor() const {
+    if (fixed_ == Fixed::Black) return true;
+    return Preferences::shared().boolForKey(u"isBlackColor Compare Strings") &&
+           stringForColor() == blackColorAsString();
+}
 
 bool Color::isEqualByString(const Color& other) const {
     return stringForColor() == other.stringForColor();

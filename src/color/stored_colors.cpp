@@ -1,0 +1,27 @@
+#include "QZCore/color/stored_colors.h"
+
+namespace QZCore {
+
+std::optional<Color> colorForKey(const Dictionary& dictionary, StringView key,
+                                 const std::optional<Color>& withDefault) {
+    const Value* stored = dictionary.find(key);
+    return stored == nullptr ? withDefault : Color::colorForString(*stored);
+}
+
+void setColor(Dictionary& dictionary, const std::optional<Color>& color, StringView forKey) {
+    if (color) dictionary.setObject(color->stringForColor(), forKey);
+}
+
+std::optional<Color> colorForKey(const Preferences& preferences, StringView key,
+                                 const std::optional<Color>& withDefault) {
+    const Value stored = preferences.objectForKey(key);
+    if (stored.isAbsent()) return withDefault;
+    const String* string = stored.string();
+    return string == nullptr ? std::nullopt : Color::colorForString(*string);
+}
+
+void setColor(Preferences& preferences, const std::optional<Color>& color, StringView forKey) {
+    if (color) preferences.setObject(color->stringForColor(), forKey);
+}
+
+}  // namespace QZCore
