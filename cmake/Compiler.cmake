@@ -1,4 +1,4 @@
-# The dialect and the floating-point rules that every target of the tree shares.
+# The dialect and the floating-point rules that every target of the tree keeps.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -10,15 +10,20 @@ if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYP
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
+# The cache may serve one build folder from another: sources are compiled by
+# absolute path, so nothing depends on the folder that the compiler runs in.
+# The sloppiness is what ccache asks for with precompiled headers.
 find_program(CCACHE_PROGRAM ccache)
-if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+mark_as_advanced(CCACHE_PROGRAM)
+if(PROJECT_IS_TOP_LEVEL AND CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+    CCACHE_NOHASHDIR=true CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
 endif()
 
-add_library(qzcore_build_rules INTERFACE)
 # Results that are fixed to single precision must not change with the target:
-# no fused multiply-add, and no basic-block vectorizer in GCC 12, which drops
-# neighbouring roundings to float.
+# no fused multiply-add, and no basic-block vectorizer in GCC, whose version 12
+# drops neighbouring roundings to float. tests/numbers fails without these.
+add_library(qzcore_build_rules INTERFACE)
 target_compile_options(qzcore_build_rules INTERFACE
   -ffp-contract=off
   $<$<CXX_COMPILER_ID:GNU>:-fno-tree-slp-vectorize>)

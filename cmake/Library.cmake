@@ -1,29 +1,25 @@
-# The one library target, its back ends, and how it is installed.
+# The one library target and its back ends.
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
-pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
-pkg_check_modules(EXPAT REQUIRED IMPORTED_TARGET expat)
 
+set(QZCORE_MODULES icu-i18n icu-uc expat)
+set(QZCORE_BACK_ENDS "")
 file(GLOB_RECURSE QZCORE_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.cpp)
-list(FILTER QZCORE_SOURCES EXCLUDE REGEX "/src/platform/(pango|curl|gdk_pixbuf)_[^/]*\\.cpp$")
 
-set(QZCORE_BACK_END_MODULES "")
-set(QZCORE_BACK_END_DEFINITIONS "")
-function(qzcore_back_end option prefix)
+# The sources src/platform/<prefix>_*.cpp belong to the library only with
+# `option`, and then need the pkg-config modules that follow.
+macro(qzcore_back_end option prefix)
   if(${option})
-    pkg_check_modules(${option} REQUIRED IMPORTED_TARGET ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/platform/${prefix}_*.cpp)
-    list(APPEND QZCORE_SOURCES ${sources})
-    list(APPEND QZCORE_BACK_END_MODULES PkgConfig::${option})
-    list(APPEND QZCORE_BACK_END_DEFINITIONS ${option}=1)
-    set(QZCORE_SOURCES ${QZCORE_SOURCES} PARENT_SCOPE)
-    set(QZCORE_BACK_END_MODULES ${QZCORE_BACK_END_MODULES} PARENT_SCOPE)
-    set(QZCORE_BACK_END_DEFINITIONS ${QZCORE_BACK_END_DEFINITIONS} PARENT_SCOPE)
+    list(APPEND QZCORE_MODULES ${ARGN})
+    list(APPEND QZCORE_BACK_ENDS ${option}=1)
+  else()
+    list(FILTER QZCORE_SOURCES EXCLUDE REGEX "/src/platform/${prefix}_[^/]*\\.cpp$")
   endif()
-endfunction()
+endmacro()
 qzcore_back_end(QZCORE_WITH_PANGO pango pangoft2 fontconfig)
 qzcore_back_end(QZCORE_WITH_CURL curl libcurl)
 qzcore_back_end(QZCORE_WITH_GDK_PIXBUF gdk_pixbuf gdk-pixbuf-2.0)
+pkg_check_modules(QZCORE_PLATFORM REQUIRED IMPORTED_TARGET ${QZCORE_MODULES})
 
 include(PublicHeaders)
 
@@ -33,12 +29,13 @@ target_sources(QZCore PUBLIC FILE_SET HEADERS
   BASE_DIRS ${PROJECT_SOURCE_DIR}/include FILES ${QZCORE_PUBLIC_HEADERS})
 target_include_directories(QZCore PRIVATE ${PROJECT_SOURCE_DIR}/src)
 target_compile_features(QZCore PUBLIC cxx_std_20)
-target_compile_definitions(QZCore PRIVATE ${QZCORE_BACK_END_DEFINITIONS}
-  QZCORE_VERSION="${PROJECT_VERSION}")
+target_compile_definitions(QZCore PRIVATE ${QZCORE_BACK_ENDS} QZCORE_VERSION="${PROJECT_VERSION}")
 target_link_libraries(QZCore PRIVATE
-  PkgConfig::ICU PkgConfig::EXPAT ${QZCORE_BACK_END_MODULES} Threads::Threads
+  PkgConfig::QZCORE_PLATFORM Threads::Threads
   $<BUILD_INTERFACE:qzcore_build_rules> $<BUILD_INTERFACE:qzcore_warnings>)
+# Before 1.0 every minor version may break callers, so it is part of the SONAME.
 set_target_properties(QZCore PROPERTIES
   VERSION ${PROJECT_VERSION}
-  SOVERSION ${PROJECT_VERSION_MAJOR}
+  SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
+  DEFINE_SYMBOL ""
   VERIFY_INTERFACE_HEADER_SETS ON)
