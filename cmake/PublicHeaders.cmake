@@ -20,5 +20,11 @@ set(QZCORE_PUBLIC_HEADERS
   platform/fonts.h
   platform/images.h
   platform/regex.h
-  platform/url_loading.h)
+  platform/url_loading.h
+  richtext.h
+  richtext/font_attributes.h
+  richtext/font_manager.h
+  richtext/paragraph_style.h
+  richtext/rich_text.h
+  richtext/text_attributes.h)
 list(TRANSFORM QZCORE_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/include/QZCore/)

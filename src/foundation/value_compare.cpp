@@ -86,7 +86,9 @@ private:
 
 }  // namespace
 
-bool operator==(const Value& a, const Value& b) { return Comparison().equal(a, b); }
+bool operator==(const Value& a, const Value& b) {
+    return a.isIdentical(b) || Comparison().equal(a, b);
+}
 
 bool operator==(const Dictionary& a, const Dictionary& b) { return Comparison().equal(a, b); }
 

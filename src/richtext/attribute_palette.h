@@ -33,9 +33,7 @@ private:
     static constexpr std::uint32_t kNone = UINT32_MAX;
 
     struct Hash {
-        std::size_t operator()(const TextAttributes& attributes) const {
-            return attributes.hash();
-        }
+        std::size_t operator()(const TextAttributes& attributes) const { return attributes.hash(); }
     };
 
     std::vector<TextAttributes> entries_;

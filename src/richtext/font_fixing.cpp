@@ -27,10 +27,10 @@ public:
     Substitutions(std::uint32_t id, const Font& font) : id_(id), font_(font) {}
 
     /// The number of the set for `character`.
-    std::uint32_t idFor(char32_t character, AttributePalette& palette,
-                        const FontCatalog& catalog) {
+    std::uint32_t idFor(char32_t character, AttributePalette& palette, const FontCatalog& catalog) {
         if (character < ascii_.size()) {
-            if (ascii_[character] == kUnknown) ascii_[character] = find(character, palette, catalog);
+            if (ascii_[character] == kUnknown)
+                ascii_[character] = find(character, palette, catalog);
             return ascii_[character];
         }
         const auto [at, isNew] = others_.try_emplace(character, kUnknown);

@@ -77,8 +77,8 @@ void Piece::mergeEqual(std::size_t first, std::size_t last) {
     if (last - first < 2 || first >= last) return;
     const auto begin = runs_.begin() + static_cast<std::ptrdiff_t>(first);
     const auto end = runs_.begin() + static_cast<std::ptrdiff_t>(last);
-    const auto kept = std::unique(
-        begin, end, [](const PieceRun& a, const PieceRun& b) { return a.id == b.id; });
+    const auto kept =
+        std::unique(begin, end, [](const PieceRun& a, const PieceRun& b) { return a.id == b.id; });
     if (kept != end) runs_.erase(kept, end);
 }
 

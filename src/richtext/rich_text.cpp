@@ -205,9 +205,8 @@ void RichText::setAttributes(const TextAttributes& attributes, Range range) {
 void RichText::addAttribute(StringView name, const Value& value, Range range) {
     range = clampedRange(range, length());
     noteEdit(range, range.length);
-    changeableStore().changeAttributes(range, [&](const TextAttributes& before) {
-        return before.withAttribute(name, value);
-    });
+    changeableStore().changeAttributes(
+        range, [&](const TextAttributes& before) { return before.withAttribute(name, value); });
 }
 
 void RichText::addAttributes(const TextAttributes& attributes, Range range) {

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "QZCore/platform/fonts.h"
 #include "QZCore/richtext/rich_text.h"
 #include "richtext/attribute_fixing.h"

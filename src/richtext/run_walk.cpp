@@ -48,9 +48,7 @@ void RichText::RunIterator::readRun(std::size_t start) {
 
 RichText::RunIterator RichText::RunSequence::begin() const { return {*store_, range_}; }
 
-RichText::RunIterator RichText::RunSequence::end() const {
-    return {*store_, {range_.end(), 0}};
-}
+RichText::RunIterator RichText::RunSequence::end() const { return {*store_, {range_.end(), 0}}; }
 
 RichText::RunSequence RichText::runs() const { return {store_, {0, length()}}; }
 

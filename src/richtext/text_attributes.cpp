@@ -4,6 +4,7 @@
 #include <atomic>
 #include <mutex>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "foundation/hash.h"
@@ -27,23 +28,37 @@ struct TextAttributes::Node {
 
 namespace {
 
+/// What one attribute adds to the hash of a set. The hash is a sum, so that it
+/// follows from another set's when one attribute changes.
+std::size_t hashShare(const TextAttribute& entry) {
+    return hashCombine(hashText(entry.name.text()), entry.value.hash());
+}
+
 std::size_t hashOfEntries(const std::vector<TextAttribute>& entries) {
-    std::size_t seed = entries.size();
-    for (const TextAttribute& entry : entries) {
-        seed = hashCombine(hashCombine(seed, hashText(entry.name)), entry.value.hash());
-    }
-    return seed;
+    std::size_t sum = 0;
+    for (const TextAttribute& entry : entries) sum += hashShare(entry);
+    return sum;
+}
+
+const String& nameOf(const TextAttribute& entry) { return entry.name.text(); }
+
+/// Whether one may be stored in place of the other. Colours keep which fixed
+/// colour they are, although that does not count when they are compared.
+bool interchangeable(const Value& a, const Value& b) {
+    const Color* left = a.boxedValue<Color>();
+    const Color* right = b.boxedValue<Color>();
+    return left != nullptr && right != nullptr ? left->isIdenticalTo(*right) : a == b;
 }
 
 bool equalEntries(const std::vector<TextAttribute>& a, const std::vector<TextAttribute>& b) {
     return std::ranges::equal(a, b, [](const TextAttribute& left, const TextAttribute& right) {
-        return left.name == right.name && left.value == right.value;
+        return left.name == right.name && interchangeable(left.value, right.value);
     });
 }
 
 /// Sorted by name, the last of each name, without absent values.
 void normalise(std::vector<TextAttribute>& entries) {
-    std::ranges::stable_sort(entries, {}, &TextAttribute::name);
+    std::ranges::stable_sort(entries, {}, nameOf);
     std::vector<TextAttribute> kept;
     kept.reserve(entries.size());
     for (TextAttribute& entry : entries) {
@@ -64,9 +79,8 @@ struct TextAttributes::Table {
         return table;
     }
 
-    Node* nodeFor(std::vector<TextAttribute> entries) {
+    Node* nodeFor(std::vector<TextAttribute> entries, std::size_t hash) {
         if (entries.empty()) return nullptr;
-        const std::size_t hash = hashOfEntries(entries);
         const std::lock_guard lock(mutex_);
         const auto [first, last] = nodes_.equal_range(hash);
         for (auto at = first; at != last; ++at) {
@@ -83,7 +97,8 @@ struct TextAttributes::Table {
         std::unique_lock lock(mutex_);
         if (node->references.fetch_sub(1, std::memory_order_acq_rel) > 1) return;
         const auto [first, last] = nodes_.equal_range(node->hash);
-        nodes_.erase(std::find_if(first, last, [node](const auto& at) { return at.second == node; }));
+        nodes_.erase(
+            std::find_if(first, last, [node](const auto& at) { return at.second == node; }));
         lock.unlock();
         delete node;
     }
@@ -122,13 +137,24 @@ private:
     std::unordered_multimap<std::size_t, Node*> nodes_;
 };
 
+AttributeName::AttributeName(StringView text) {
+    static auto& names = *new std::unordered_set<String>;
+    static std::mutex& mutex = *new std::mutex;
+    const std::lock_guard lock(mutex);
+    text_ = &*names.emplace(text).first;
+}
+
 TextAttributes::TextAttributes(std::initializer_list<TextAttribute> attributes)
     : TextAttributes(std::vector<TextAttribute>(attributes)) {}
 
 TextAttributes::TextAttributes(std::vector<TextAttribute> attributes) {
     normalise(attributes);
-    node_ = Table::shared().nodeFor(std::move(attributes));
+    const std::size_t hash = hashOfEntries(attributes);
+    node_ = Table::shared().nodeFor(std::move(attributes), hash);
 }
+
+TextAttributes::TextAttributes(std::vector<TextAttribute> sorted, std::size_t hash)
+    : node_(Table::shared().nodeFor(std::move(sorted), hash)) {}
 
 TextAttributes::TextAttributes(const TextAttributes& other) noexcept : node_(other.node_) {
     if (node_ != nullptr) node_->references.fetch_add(1, std::memory_order_relaxed);
@@ -205,10 +231,16 @@ std::int32_t TextAttributes::strikethroughStyle() const {
     return node_ == nullptr ? 0 : node_->strikethroughStyle;
 }
 
-TextAttributes TextAttributes::withAttribute(StringView name, const Value& value) const {
+TextAttributes TextAttributes::withAttribute(AttributeName name, const Value& value) const {
     std::vector<TextAttribute> changed = entries();
-    changed.push_back({String(name), value});
-    return TextAttributes(std::move(changed));
+    std::size_t hash = node_ == nullptr ? 0 : node_->hash;
+    auto at = std::ranges::lower_bound(changed, name.text(), {}, nameOf);
+    if (at != changed.end() && at->name == name) {
+        hash -= hashShare(*at);
+        at = changed.erase(at);
+    }
+    if (!value.isAbsent()) hash += hashShare(*changed.insert(at, {name, value}));
+    return TextAttributes(std::move(changed), hash);
 }
 
 TextAttributes TextAttributes::withoutAttribute(StringView name) const {

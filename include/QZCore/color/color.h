@@ -128,6 +128,12 @@ public:
         return a.model_ == b.model_ && a.components_ == b.components_;
     }
 
+    /// Whether both are equal and either both or neither is the same fixed
+    /// colour.
+    [[nodiscard]] constexpr bool isIdenticalTo(const Color& other) const {
+        return *this == other && fixed_ == other.fixed_;
+    }
+
     // ---- Reading ----
 
     /// Reads any colour string: "#" and six hex digits, "rgba(...)" with hex

@@ -22,6 +22,28 @@ namespace QZCore {
 
 // ---- Attribute names --------------------------------------------------------
 
+/// The name of an attribute. Each name is stored once in the process, so that
+/// copying and comparing one costs little.
+class QZ_EXPORT AttributeName {
+public:
+    /// The name `text`.
+    AttributeName(StringView text);
+    /// The name `text`.
+    AttributeName(const char16_t* text) : AttributeName(StringView(text)) {}
+    /// The name `text`.
+    AttributeName(const String& text) : AttributeName(StringView(text)) {}
+
+    /// The name as text.
+    [[nodiscard]] const String& text() const { return *text_; }
+    /// Whether both are the same name.
+    [[nodiscard]] bool operator==(const AttributeName& other) const { return text_ == other.text_; }
+    /// Whether the name is `text`.
+    [[nodiscard]] bool operator==(StringView text) const { return *text_ == text; }
+
+private:
+    const String* text_;
+};
+
 /// A `Font`.
 inline constexpr StringView NSFontAttributeName = u"font";
 /// A `Color`; an absent one counts as black.
@@ -78,7 +100,7 @@ struct TextAttachment {
 
 /// One attribute: its name and its value.
 struct TextAttribute {
-    String name;
+    AttributeName name;
     Value value;
 };
 
@@ -129,7 +151,7 @@ public:
 
     /// These attributes with `value` under `name`; without it when the value is
     /// absent.
-    [[nodiscard]] TextAttributes withAttribute(StringView name, const Value& value) const;
+    [[nodiscard]] TextAttributes withAttribute(AttributeName name, const Value& value) const;
     /// These attributes without `name`.
     [[nodiscard]] TextAttributes withoutAttribute(StringView name) const;
     /// These attributes and those of `other`, which win.
@@ -142,7 +164,8 @@ public:
 
     // ---- Comparing ----
 
-    /// Whether both hold equal values under the same names.
+    /// Whether both hold equal values under the same names; of two colours
+    /// also whether they are the same fixed colour.
     [[nodiscard]] bool operator==(const TextAttributes& other) const {
         return node_ == other.node_;
     }
@@ -160,6 +183,8 @@ public:
 private:
     struct Node;
     struct Table;
+
+    TextAttributes(std::vector<TextAttribute> sorted, std::size_t hash);
 
     Node* node_ = nullptr;  // null stands for the empty set
 };

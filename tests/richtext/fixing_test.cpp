@@ -1,0 +1,105 @@
+#include "QZCore/platform/fonts.h"
+#include "QZCore/richtext/font_manager.h"
+#include "QZCore/richtext/rich_text.h"
+#include "support/font_scope.h"
+#include "support/printing.h"
+
+namespace QZCore {
+namespace {
+
+TextAttributes paragraph(double indent) {
+    ParagraphStyle style;
+    style.headIndent = indent;
+    return {{NSParagraphStyleAttributeName, Value::boxed(style)}};
+}
+
+/// The head indent at each unit; '-' without a paragraph style.
+std::string indents(const RichText& text) {
+    std::string all;
+    for (std::size_t i = 0; i < text.length(); ++i) {
+        const TextAttributes attributes = text.attributesAtIndex(i);
+        const ParagraphStyle* style = attributes.paragraphStyle();
+        all +=
+            style == nullptr ? '-' : static_cast<char>('0' + static_cast<int>(style->headIndent));
+    }
+    return all;
+}
+
+}  // namespace
+
+TEST_CASE("a paragraph takes the style of its first character") {
+    const testing::MadeUpFonts fonts;
+    struct Row {
+        const char* why;
+        StringView text;
+        std::vector<std::pair<Range, double>> styles;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"the rest of the paragraph follows", u"ab\ncd", {{{0, 1}, 1}, {{1, 4}, 2}}, "11122"},
+        {"a change at the paragraph's start stays", u"a\nb", {{{0, 2}, 1}, {{2, 1}, 2}}, "112"},
+        {"a style that starts inside is lost", u"ab\ncd", {{{1, 1}, 1}}, "-----"},
+        {"carriage return and line feed are one end",
+         u"a\r\nb",
+         {{{0, 2}, 1}, {{2, 2}, 2}},
+         "1112"},
+        {"a carriage return alone ends", u"a\rb", {{{0, 2}, 1}, {{2, 1}, 2}}, "112"},
+        {"a line separator does not end", u"a\u2028b", {{{0, 2}, 1}, {{2, 1}, 2}}, "111"},
+        {"a paragraph separator ends", u"a\u2029b", {{{0, 2}, 1}, {{2, 1}, 2}}, "112"},
+        {"styles alternate within one paragraph",
+         u"abcdef",
+         {{{0, 1}, 1}, {{2, 1}, 2}, {{4, 1}, 3}},
+         "111111"},
+        {"empty paragraphs", u"\n\na", {{{0, 1}, 1}, {{1, 1}, 2}, {{2, 1}, 3}}, "123"},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.why);
+        RichText text(row.text);
+        for (const auto& [range, indent] : row.styles) text.addAttributes(paragraph(indent), range);
+        text.fixAttributesInRange({0, text.length()});
+        CHECK(indents(text) == row.expected);
+    }
+}
+
+TEST_CASE("closing a batch fixes the paragraphs that were changed and no others") {
+    const testing::MadeUpFonts fonts;
+    RichText text(u"aaaa\nbbbb\ncccc");
+    text.addAttributes(paragraph(1), {2, 1});
+    text.addAttributes(paragraph(1), {12, 1});
+    text.beginEditing();
+    {
+        const RichTextEditing editing(text);
+        text.addAttributes(paragraph(2), {5, 2});
+    }
+    CHECK(indents(text) == "--1--22-----1-");
+    text.endEditing();
+    CHECK(indents(text) == "--1--22222--1-");
+}
+
+TEST_CASE("a font that lacks a character is replaced for it and what joins it") {
+    const testing::MadeUpFonts fonts;
+    const Font font = FontManager::shared().userFont(14);
+    const TextAttributes attributes{{NSFontAttributeName, Value::boxed(font)}};
+    // A thumb with a skin tone, between letters.
+    RichText text(u"ab\U0001F44D\U0001F3FDcd\u0301", attributes);
+    text.fixAttributesInRange({0, 1});
+    REQUIRE(text.numberOfRuns() == 3);
+    const TextRun emoji = text.runAtIndex(2);
+    CHECK(emoji.range == Range{2, 4});
+    CHECK(emoji.attributes.font()->familyName == u"Symbols");
+    CHECK(emoji.attributes.font()->pointSize == 14);
+    CHECK(*text.attributesAtIndex(7).font() == font);
+}
+
+TEST_CASE("an attachment stays only on its character") {
+    const testing::MadeUpFonts fonts;
+    const TextAttributes attached{{NSAttachmentAttributeName, Value::boxed(TextAttachment{})},
+                                  {u"mark", 1}};
+    RichText text(u"a\uFFFCb", attached);
+    text.fixAttributesInRange({0, 3});
+    CHECK(text.attributesAtIndex(0) == TextAttributes{{u"mark", 1}});
+    CHECK(text.attributesAtIndex(1) == attached);
+    CHECK(text.attributesAtIndex(2) == TextAttributes{{u"mark", 1}});
+}
+
+}  // namespace QZCore

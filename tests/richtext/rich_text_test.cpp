@@ -1,0 +1,181 @@
+#include "QZCore/richtext/rich_text.h"
+
+#include <random>
+#include <thread>
+
+#include "support/printing.h"
+#include "support/rich_text_twin.h"
+
+namespace QZCore {
+namespace {
+
+using testing::RichTextTwin;
+
+TextAttributes mark(int number) {
+    return number == 0 ? TextAttributes() : TextAttributes{{u"mark", number}};
+}
+
+/// The law of every text: its runs cut it into parts without a gap, and no two
+/// neighbours are equal.
+void checkPartition(const RichText& text) {
+    std::size_t at = 0;
+    const TextAttributes* before = nullptr;
+    const auto runs = text.runs();
+    for (const TextRunView run : runs) {
+        REQUIRE(run.range.location == at);
+        REQUIRE(run.range.length > 0);
+        if (before != nullptr) REQUIRE(*before != run.attributes);
+        before = &run.attributes;
+        at = run.range.end();
+    }
+    REQUIRE(at == text.length());
+}
+
+void checkSame(const RichText& text, const RichTextTwin& twin) {
+    checkPartition(text);
+    REQUIRE(text.string() == twin.text);
+    for (const TextRunView run : text.runs()) {
+        for (std::size_t i = run.range.location; i < run.range.end(); ++i) {
+            REQUIRE(run.attributes == twin.attributes[i]);
+        }
+    }
+}
+
+}  // namespace
+
+TEST_CASE("random edits give what a unit-by-unit twin gives") {
+    // Long enough that pieces divide and join, short enough for the twin.
+    std::mt19937 random(7);
+    const auto below = [&random](std::size_t limit) { return random() % limit; };
+    RichText text;
+    RichTextTwin twin;
+    RichText other(u"other", mark(3));
+    for (int step = 0; step < 3000; ++step) {
+        CAPTURE(step);
+        const std::size_t at = below(twin.text.size() + 10);
+        const bool large = below(20) == 0;
+        const Range range{at, below(large ? 9000 : 40)};
+        switch (below(7)) {
+            case 0:
+            case 1: {
+                const String added(below(large ? 9000 : 30),
+                                   static_cast<char16_t>(u'a' + step % 26));
+                text.replaceCharactersInRange(range, added);
+                twin.replace(range, added);
+                break;
+            }
+            case 2:
+                text.replaceCharactersInRange({at, 0}, u"xyz");
+                twin.replace({at, 0}, u"xyz");
+                break;
+            case 3:
+                text.setAttributes(mark(step % 4), range);
+                twin.change(range, [&](const TextAttributes&) { return mark(step % 4); });
+                break;
+            case 4:
+                text.addAttribute(u"extra", step % 3, range);
+                twin.change(range, [&](const TextAttributes& before) {
+                    return before.withAttribute(u"extra", step % 3);
+                });
+                break;
+            case 5:
+                if (below(4) == 0) other = text.attributedSubstringFromRange(range);
+                text.replaceCharactersInRange({at, 3}, other);
+                twin.replace({at, 3}, other);
+                break;
+            default:
+                text.removeAttribute(u"extra", range);
+                twin.change(range, [](const TextAttributes& before) {
+                    return before.withoutAttribute(u"extra");
+                });
+        }
+        if (step % 50 == 0) checkSame(text, twin);
+        if (twin.text.size() > 60000) {
+            text.deleteCharactersInRange({100, 55000});
+            twin.replace({100, 55000}, u"");
+        }
+    }
+    checkSame(text, twin);
+}
+
+TEST_CASE("a copy keeps what it had, and equality sees text and attributes") {
+    RichText text(String(10000, u'a'), mark(1));
+    const RichText copy = text;
+    CHECK(copy == text);
+    text.addAttribute(u"mark", 2, {5000, 1});
+    CHECK(copy != text);
+    CHECK(copy.numberOfRuns() == 1);
+    CHECK(text.numberOfRuns() == 3);
+    text.addAttribute(u"mark", 1, {5000, 1});
+    CHECK(copy == text);
+    text.replaceCharactersInRange({0, 1}, text);  // into itself
+    CHECK(text.length() == 19999);
+    RichText moved = std::move(text);
+    CHECK(text.empty());
+    CHECK(moved.length() == 19999);
+}
+
+TEST_CASE("new text takes the attributes of its place") {
+    RichText text(u"ab", mark(1));
+    text.addAttribute(u"mark", 2, {1, 1});
+    text.replaceCharactersInRange({1, 0}, u"x");
+    CHECK(text.attributesAtIndex(1) == mark(1));  // of the unit before
+    text.replaceCharactersInRange({2, 1}, u"y");
+    CHECK(text.attributesAtIndex(2) == mark(2));  // of the replaced unit
+    text.replaceCharactersInRange({0, 0}, u"z");
+    CHECK(text.attributesAtIndex(0) == mark(1));  // of the unit after
+    RichText empty;
+    empty.replaceCharactersInRange({5, 9}, u"q");
+    CHECK(empty.attributesAtIndex(0).empty());
+}
+
+TEST_CASE("a value's longest range is told within the range asked about") {
+    RichText text(String(9000, u'a'), mark(1));
+    text.addAttribute(u"extra", 5, {4000, 100});
+    const auto whole = text.attributeAtIndex(u"mark", 4050);
+    CHECK(whole.range == Range{0, 9000});
+    const auto part = text.attributeAtIndex(u"extra", 4050);
+    CHECK(part.value == Value(5));
+    CHECK(part.range == Range{4000, 100});
+    CHECK(text.attributeAtIndex(u"extra", 10, {5, 100}).range == Range{5, 100});
+    CHECK(text.attributeAtIndex(u"extra", 9000).range.length == 0);
+    CHECK(text.runAtIndex(8999).range == Range{4100, 4900});
+}
+
+TEST_CASE("equal attribute sets are one, and sets that nobody has are forgotten") {
+    const Value array = Array{1, u"x"};
+    CHECK(TextAttributes{{u"b", array}, {u"a", 1}} ==
+          TextAttributes{{u"a", 1}, {u"b", Array{1, u"x"}}});
+    CHECK(TextAttributes{{u"a", 1}, {u"a", 2}} == TextAttributes{{u"a", 2}});
+    CHECK(TextAttributes{{u"a", Value()}}.empty());
+    RichText text(String(5000, u'a'));
+    for (int i = 0; i < 20000; ++i)
+        text.addAttribute(u"n", i, {static_cast<std::size_t>(i) % 5000, 1});
+    checkPartition(text);
+    CHECK(text.attributesAtIndex(4999).objectForKey(u"n") == Value(19999));
+    CHECK(text.attributesAtIndex(0).objectForKey(u"n") == Value(15000));
+
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 4; ++t) {
+        threads.emplace_back([] {
+            for (int i = 0; i < 20000; ++i) {
+                const TextAttributes one{{u"shared", i % 3}};
+                const TextAttributes two = one;
+                if (two.objectForKey(u"shared") != Value(i % 3)) std::abort();
+            }
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+}
+
+TEST_CASE("link formatting goes away with the link") {
+    const TextAttributes linked{{NSLinkAttributeName, URL{u"x:y"}},
+                                {NSForegroundColorAttributeName, 1},
+                                {NSUnderlineStyleAttributeName, 1},
+                                {u"mark", 1}};
+    CHECK(linked.textAttributesByRemovingLinkAttributes() == mark(1));
+    const TextAttributes plain = linked.withoutAttribute(NSLinkAttributeName);
+    CHECK(plain.textAttributesByRemovingLinkAttributes() == plain);
+}
+
+}  // namespace QZCore
