@@ -10,9 +10,13 @@ FlatText FlatTextAccess::flattened(const RichText& text, Range range) {
     FlatText flat;
     range = clampedRange(range, text.length());
     flat.text = text.string(range);
-    flat.palette = text.store_->palette();
     if (range.length == 0) return flat;
     const RichText::Store& store = *text.store_;
+    NumberMap numbers;  // only sets that the range uses get a number
+    const auto number = [&](std::uint32_t id) {
+        return numbers(
+            id, [&](std::uint32_t old) { return flat.palette.idOf(store.palette().at(old)); });
+    };
     RichText::Store::Place place = store.placeOf(range.location);
     std::size_t run = store.piece(place.piece).runAt(range.location - place.pieceStart);
     for (std::size_t at = range.location; at < range.end(); ++place.piece, run = 0) {
@@ -20,7 +24,7 @@ FlatText FlatTextAccess::flattened(const RichText& text, Range range) {
         for (; run < piece.runs().size() && at < range.end(); ++run) {
             at = std::min(place.pieceStart + piece.runEnd(run), range.end());
             appendRun(flat.runs, static_cast<std::uint32_t>(at - range.location),
-                      piece.runs()[run].id);
+                      number(piece.runs()[run].id));
         }
         place.pieceStart += piece.length();
     }

@@ -9,6 +9,7 @@
 
 #include "QZCore/richtext/rich_text.h"
 #include "richtext/attribute_palette.h"
+#include "richtext/number_map.h"
 #include "richtext/piece.h"
 
 namespace QZCore {
@@ -60,8 +61,6 @@ private:
     // Lengths are summed up for so many pieces at a time.
     static constexpr std::size_t kGroup = 64;
 
-    class NumberMap;
-
     Piece& changeablePiece(std::size_t index);
     void erase(Range range);
     void insert(std::size_t index, StringView text, std::uint32_t id);
@@ -77,27 +76,6 @@ private:
     std::vector<std::size_t> groupSums_;
     std::size_t length_ = 0;
     AttributePalette palette_;
-};
-
-/// Numbers that were mapped before, so that each is mapped once.
-class RichText::Store::NumberMap {
-public:
-    template <class Make>
-    std::uint32_t operator()(std::uint32_t id, Make make) {
-        if (id == lastFrom_) return lastTo_;
-        if (id >= known_.size()) known_.resize(id + 1, kUnknown);
-        if (known_[id] == kUnknown) known_[id] = make(id);
-        lastFrom_ = id;
-        lastTo_ = known_[id];
-        return lastTo_;
-    }
-
-private:
-    static constexpr std::uint32_t kUnknown = UINT32_MAX;
-
-    std::vector<std::uint32_t> known_;
-    std::uint32_t lastFrom_ = kUnknown;
-    std::uint32_t lastTo_ = kUnknown;
 };
 
 template <class Change>
