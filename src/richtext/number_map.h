@@ -15,13 +15,15 @@ public:
     template <class Make>
     std::uint32_t operator()(std::uint32_t from, Make make) {
         if (from == last_.from) return last_.to;
-        if (const std::uint32_t known = find(from); known != kNone) {
-            last_ = {from, known};
-        } else {
-            const std::uint32_t to = make(from);
-            if (last_.from != kNone) remember(last_);
-            last_ = {from, to};
+        std::uint32_t to = find(from);
+        if (to == kNone) {
+            to = make(from);
+            if (last_.from != kNone) {
+                if (slots_.empty()) remember(last_);
+                remember({from, to});
+            }
         }
+        last_ = {from, to};
         return last_.to;
     }
 
@@ -59,8 +61,7 @@ private:
         }
     }
 
-    // The pair of the last question, which may not be in the table yet: a map
-    // of one pair needs no table.
+    // The pair of the last question. A map of one pair needs no table.
     Pair last_;
     std::vector<Pair> slots_;
     std::size_t count_ = 0;

@@ -1,0 +1,176 @@
+#include "markdown/render_text.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "QZCore/markdown/rendering.h"
+#include "markdown/expression_matches.h"
+
+namespace QZCore {
+
+/// One forward walk over text, search copy and runs, which closes the gaps that
+/// deletions leave as it goes.
+class RenderText::Sweep {
+public:
+    explicit Sweep(RenderText& text)
+        : text_(text),
+          live_(text.flat_.text.data()),
+          copy_(text.copyDiffers_ ? text.searchCopy_.data() : nullptr),
+          runs_(text.flat_.runs) {
+        text_.sweptRuns_.clear();
+    }
+
+    /// The number of the attributes at `position`, which lies ahead of the walk
+    /// and of every position asked about before.
+    std::uint32_t idAhead(std::uint32_t position) {
+        while (runs_[runAhead_].end <= position) ++runAhead_;
+        return runs_[runAhead_].id;
+    }
+
+    /// Moves on to `end` and keeps what lies before it.
+    void keepUpTo(std::uint32_t end) {
+        keepUpTo(end, [](std::uint32_t id) { return id; });
+    }
+
+    /// The same with attributes added.
+    void keepUpTo(std::uint32_t end, AddedAttributes& added) {
+        keepUpTo(end, [&](std::uint32_t id) { return added.over(id, text_.flat_.palette); });
+    }
+
+    /// Moves on to `end` and deletes what lies before it.
+    void deleteUpTo(std::uint32_t end) { read_ = end; }
+
+    /// Adds text that was not there, no longer than what was deleted before.
+    void insert(StringView text, std::uint32_t id) {
+        text.copy(live_ + write_, text.size());
+        if (copy_ != nullptr) text.copy(copy_ + write_, text.size());
+        write_ += static_cast<std::uint32_t>(text.size());
+        appendRun(text_.sweptRuns_, write_, id);
+    }
+
+    /// Keeps the rest of the text and puts the result in place.
+    void finish() {
+        keepUpTo(static_cast<std::uint32_t>(text_.flat_.text.size()));
+        text_.flat_.text.resize(write_);
+        if (copy_ != nullptr) text_.searchCopy_.resize(write_);
+        std::swap(text_.flat_.runs, text_.sweptRuns_);
+    }
+
+private:
+    template <class NewId>
+    void keepUpTo(std::uint32_t end, NewId newId) {
+        if (read_ >= end) return;
+        const std::uint32_t length = end - read_;
+        if (read_ != write_) {
+            std::char_traits<char16_t>::move(live_ + write_, live_ + read_, length);
+            if (copy_ != nullptr) {
+                std::char_traits<char16_t>::move(copy_ + write_, copy_ + read_, length);
+            }
+        }
+        while (read_ < end) {
+            while (runs_[run_].end <= read_) ++run_;
+            const std::uint32_t id = runs_[run_].id;
+            const std::uint32_t partEnd = std::min(runs_[run_].end, end);
+            write_ += partEnd - read_;
+            read_ = partEnd;
+            appendRun(text_.sweptRuns_, write_, newId(id));
+        }
+    }
+
+    RenderText& text_;
+    char16_t* live_;
+    char16_t* copy_;
+    const std::vector<FlatRun>& runs_;
+    std::size_t run_ = 0;
+    std::size_t runAhead_ = 0;
+    std::uint32_t read_ = 0;
+    std::uint32_t write_ = 0;
+};
+
+RenderText::RenderText(FlatText text, const MarkdownExpression* escapes) : flat_(std::move(text)) {
+    if (escapes == nullptr) return;
+    findMatches(*escapes, flat_.text, matches_);
+    copyDiffers_ = !matches_.empty();
+    if (!copyDiffers_) return;
+    searchCopy_ = flat_.text;
+    for (const SpanMatch& match : matches_) {
+        searchCopy_[match.whole.start] = u'@';
+        searchCopy_[match.whole.start + 1] = u'@';
+    }
+}
+
+bool RenderText::isIgnored(std::uint32_t id) const {
+    return flat_.palette.at(id).find(kIgnoreBlockAttributeName) != nullptr;
+}
+
+void RenderText::addEverywhere(const TextAttributes& attributes) {
+    AddedAttributes added(attributes);
+    sweptRuns_.clear();
+    for (const FlatRun& run : flat_.runs) {
+        appendRun(sweptRuns_, run.end, added.over(run.id, flat_.palette));
+    }
+    std::swap(flat_.runs, sweptRuns_);
+}
+
+const std::vector<SpanMatch>& RenderText::find(const MarkdownExpression& expression) {
+    matches_.clear();
+    findMatches(expression, searchCopy(), matches_);
+    return matches_;
+}
+
+std::vector<bool> RenderText::ignoredMatches() const {
+    std::vector<bool> ignored;
+    std::size_t run = 0;
+    for (const SpanMatch& match : matches_) {
+        while (flat_.runs[run].end <= match.whole.start) ++run;
+        ignored.push_back(isIgnored(flat_.runs[run].id));
+    }
+    return ignored;
+}
+
+void RenderText::apply(const EditMatch& edit) {
+    if (matches_.empty()) return;
+    Sweep sweep(*this);
+    for (const SpanMatch& match : matches_) {
+        const std::uint32_t id = sweep.idAhead(match.whole.start);
+        if (isIgnored(id)) continue;
+        const MatchEdit change = edit(match, id);
+        if (change.added == nullptr && change.replacement.empty()) continue;
+        sweep.keepUpTo(match.whole.start);
+        if (change.added != nullptr) {
+            sweep.deleteUpTo(change.content.start);
+            sweep.keepUpTo(change.content.end, *change.added);
+        }
+        sweep.deleteUpTo(match.whole.end);
+        if (change.added == nullptr) sweep.insert(change.replacement, change.replacementId);
+    }
+    sweep.finish();
+}
+
+void RenderText::resolveEscapes(const MarkdownExpression& escapes) {
+    copyDiffers_ = false;
+    matches_.clear();
+    findMatches(escapes, flat_.text, matches_);
+    if (matches_.empty()) return;
+    Sweep sweep(*this);
+    for (const SpanMatch& match : matches_) {
+        sweep.keepUpTo(match.whole.start);
+        sweep.deleteUpTo(match.whole.start + 1);
+    }
+    sweep.finish();
+}
+
+void RenderText::removeIgnoreMarks() {
+    NumberMap numbers;
+    sweptRuns_.clear();
+    for (const FlatRun& run : flat_.runs) {
+        const std::uint32_t id = numbers(run.id, [&](std::uint32_t old) {
+            const TextAttributes marked = flat_.palette.at(old);
+            return flat_.palette.idOf(marked.withoutAttribute(kIgnoreBlockAttributeName));
+        });
+        appendRun(sweptRuns_, run.end, id);
+    }
+    std::swap(flat_.runs, sweptRuns_);
+}
+
+}  // namespace QZCore

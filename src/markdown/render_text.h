@@ -1,0 +1,111 @@
+// The text while it is rendered.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "QZCore/markdown/syntax.h"
+#include "markdown/scanner.h"
+#include "richtext/flat_text.h"
+#include "richtext/number_map.h"
+
+namespace QZCore {
+
+/// Attributes that a pass adds, with what that gives for each set that they
+/// were added to before.
+class AddedAttributes {
+public:
+    AddedAttributes() = default;
+    explicit AddedAttributes(TextAttributes added) : added_(std::move(added)) {}
+
+    /// The number of the set with the number `id` after the addition.
+    std::uint32_t over(std::uint32_t id, AttributePalette& palette) {
+        return numbers_(id, [&](std::uint32_t old) {
+            const TextAttributes before = palette.at(old);
+            return palette.idOf(before.mergedWith(added_));
+        });
+    }
+
+private:
+    TextAttributes added_;
+    NumberMap numbers_;
+};
+
+/// What a pass makes of one match: it keeps the content with attributes added
+/// and deletes the rest, or puts a replacement, no longer than the match, in
+/// its place.
+struct MatchEdit {
+    SpanMatch::Span content;
+    AddedAttributes* added = nullptr;
+    StringView replacement;
+    std::uint32_t replacementId = 0;
+
+    /// Leaves the match as it is written.
+    static MatchEdit leave() { return {}; }
+    /// Keeps `content` with attributes added.
+    static MatchEdit keep(SpanMatch::Span content, AddedAttributes& added) {
+        return {content, &added, {}, 0};
+    }
+    /// Puts `text` with the attributes `id` in the match's place.
+    static MatchEdit replace(StringView text, std::uint32_t id) { return {{}, nullptr, text, id}; }
+};
+
+/// The live text with its runs, and the search copy beside it, in which every
+/// escape reads "@@". Positions in both are always the same. Passes search the
+/// copy and edit both.
+class RenderText {
+public:
+    /// Makes the search copy by the `escape` row, which may be null.
+    RenderText(FlatText text, const MarkdownExpression* escapes);
+
+    [[nodiscard]] StringView live() const { return flat_.text; }
+    [[nodiscard]] StringView searchCopy() const {
+        return copyDiffers_ ? StringView(searchCopy_) : StringView(flat_.text);
+    }
+    [[nodiscard]] AttributePalette& palette() { return flat_.palette; }
+    /// The number of the attributes at the start of the text.
+    [[nodiscard]] std::uint32_t firstId() const {
+        return flat_.runs.empty() ? 0 : flat_.runs.front().id;
+    }
+    /// Whether a set carries the mark that keeps passes away.
+    [[nodiscard]] bool isIgnored(std::uint32_t id) const;
+
+    /// Adds attributes to the whole text.
+    void addEverywhere(const TextAttributes& added);
+
+    /// Finds all matches of a pass in the search copy.
+    [[nodiscard]] const std::vector<SpanMatch>& find(const MarkdownExpression& expression);
+
+    /// For each match found last, whether it is marked to be ignored.
+    [[nodiscard]] std::vector<bool> ignoredMatches() const;
+
+    using EditMatch = std::function<MatchEdit(const SpanMatch& match, std::uint32_t id)>;
+    /// Applies a pass to the matches found last. `edit` is asked once for each
+    /// match whose first character is not marked to be ignored, with the
+    /// attributes there.
+    ///
+    /// The passes are defined as edits from the last match to the first. As the
+    /// matches of a pass do not overlap and none reads what another changes,
+    /// one forward sweep gives the same and moves every unit once.
+    void apply(const EditMatch& edit);
+
+    /// Deletes the backslash of every escape that the live text holds now.
+    void resolveEscapes(const MarkdownExpression& escapes);
+    /// Takes the mark that keeps passes away from the whole text.
+    void removeIgnoreMarks();
+
+    /// Gives the rendered text up.
+    [[nodiscard]] FlatText take() { return std::move(flat_); }
+
+private:
+    class Sweep;
+
+    FlatText flat_;
+    String searchCopy_;
+    bool copyDiffers_ = false;
+    std::vector<SpanMatch> matches_;
+    std::vector<FlatRun> sweptRuns_;
+};
+
+}  // namespace QZCore

@@ -1,0 +1,50 @@
+// What every pass of the rendering works with.
+#pragma once
+
+#include <unordered_map>
+
+#include "QZCore/markdown/style_sheet.h"
+#include "QZCore/markdown/syntax.h"
+#include "markdown/render_text.h"
+
+namespace QZCore {
+
+/// The text, and what says how it is to look.
+struct RenderingContext {
+    RenderText& text;
+    const StyleSheet& styles;
+    const Preferences& preferences;
+    /// The font where the text has none.
+    Font baseFont;
+
+    /// The style sheet's style of that name, or null.
+    [[nodiscard]] const Dictionary* styleNamed(StringView name) const;
+
+    /// The font of the attributes with the number `id`.
+    [[nodiscard]] const Font& fontOf(std::uint32_t id) const;
+
+    /// The attribute that keeps later passes away, where the preferences ask
+    /// for it; else none.
+    [[nodiscard]] TextAttributes ignoreMark() const;
+};
+
+/// What a construct's default style and user style prescribe, resolved once for
+/// each set of attributes that a match starts with.
+class ResolvedStyles {
+public:
+    /// `extra` is added to whatever the styles give.
+    ResolvedStyles(RenderingContext& context, Dictionary defaultStyle, StringView userStyleName,
+                   TextAttributes extra = {});
+
+    /// The attributes to add to a match that starts with the set `id`.
+    [[nodiscard]] AddedAttributes& forMatchAt(std::uint32_t id);
+
+private:
+    RenderingContext& context_;
+    Dictionary defaultStyle_;
+    const Dictionary* userStyle_;
+    TextAttributes extra_;
+    std::unordered_map<std::uint32_t, AddedAttributes> resolved_;
+};
+
+}  // namespace QZCore
