@@ -9,15 +9,18 @@ namespace {
 
 constexpr std::size_t kSearchedOneByOne = 8;
 
-bool sameKey(const Value& stored, const Value& key) { return stored == key; }
-
 bool sameKey(const Value& stored, StringView key) {
     const String* text = stored.string();
     return text != nullptr && *text == key;
 }
 
-std::size_t hashOfKey(const Value& key) { return key.hash(); }
-std::size_t hashOfKey(StringView key) { return hashText(key); }
+bool sameKey(const Value& stored, const Value& key) {
+    const String* text = key.string();
+    return text == nullptr ? stored == key : sameKey(stored, StringView(*text));
+}
+
+std::uint32_t hashOfKey(const Value& key) { return static_cast<std::uint32_t>(key.hash()); }
+std::uint32_t hashOfKey(StringView key) { return static_cast<std::uint32_t>(hashText(key)); }
 
 }  // namespace
 
@@ -33,23 +36,23 @@ std::size_t Dictionary::positionOf(const Key& key) const {
         }
         return entries_.size();
     }
+    const std::uint32_t hash = hashOfKey(key);
     const std::size_t mask = index_.size() - 1;
-    for (std::size_t slot = hashOfKey(key) & mask; index_[slot] != 0; slot = (slot + 1) & mask) {
-        const std::size_t position = index_[slot] - 1;
-        if (sameKey(entries_[position].key, key)) return position;
+    for (std::size_t at = hash & mask; index_[at].entry != 0; at = (at + 1) & mask) {
+        const std::size_t position = index_[at].entry - 1;
+        if (index_[at].hash == hash && sameKey(entries_[position].key, key)) return position;
     }
     return entries_.size();
 }
 
-const Value* Dictionary::find(StringView key) const {
-    const std::size_t position = positionOf(key);
+const Value* Dictionary::valueAt(std::size_t position) const {
     return position == entries_.size() ? nullptr : &entries_[position].value;
 }
 
+const Value* Dictionary::find(StringView key) const { return valueAt(positionOf(key)); }
+
 const Value* Dictionary::find(const Value& key) const {
-    if (key.isAbsent()) return nullptr;
-    const std::size_t position = positionOf(key);
-    return position == entries_.size() ? nullptr : &entries_[position].value;
+    return key.isAbsent() ? nullptr : valueAt(positionOf(key));
 }
 
 Value Dictionary::objectForKey(StringView key) const {
@@ -76,11 +79,12 @@ void Dictionary::append(DictionaryEntry entry) {
     entries_.push_back(std::move(entry));
     if (entries_.size() <= kSearchedOneByOne) return;
     // At most half of the slots are taken, so that every search ends early.
-    if (entries_.size() * 2 > index_.size()) {
+    if (index_.empty()) {
         rebuildIndex();
-    } else {
-        addToIndex(entries_.size() - 1);
+        return;
     }
+    if (entries_.size() * 2 > index_.size()) growIndex();
+    addToIndex({hashOfKey(entries_.back().key), static_cast<std::uint32_t>(entries_.size())});
 }
 
 void Dictionary::removeObjectForKey(const Value& key) {
@@ -94,18 +98,27 @@ void Dictionary::removeObjectForKey(const Value& key) {
 
 void Dictionary::removeAllObjects() { *this = Dictionary(); }
 
-void Dictionary::addToIndex(std::size_t position) {
+void Dictionary::addToIndex(Slot added) {
     const std::size_t mask = index_.size() - 1;
-    std::size_t slot = entries_[position].key.hash() & mask;
-    while (index_[slot] != 0) slot = (slot + 1) & mask;
-    index_[slot] = static_cast<std::uint32_t>(position + 1);
+    std::size_t at = added.hash & mask;
+    while (index_[at].entry != 0) at = (at + 1) & mask;
+    index_[at] = added;
+}
+
+void Dictionary::growIndex() {
+    const std::vector<Slot> slots = std::exchange(index_, std::vector<Slot>(index_.size() * 2));
+    for (const Slot& slot : slots) {
+        if (slot.entry != 0) addToIndex(slot);
+    }
 }
 
 void Dictionary::rebuildIndex() {
     std::size_t slots = kSearchedOneByOne * 4;
-    while (slots < entries_.size() * 4) slots *= 2;
-    index_.assign(slots, 0);
-    for (std::size_t i = 0; i < entries_.size(); ++i) addToIndex(i);
+    while (slots < entries_.size() * 2) slots *= 2;
+    index_.assign(slots, {});
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        addToIndex({hashOfKey(entries_[i].key), static_cast<std::uint32_t>(i + 1)});
+    }
 }
 
 void Dictionary::dropRemoved() {

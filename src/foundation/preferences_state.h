@@ -8,14 +8,15 @@
 
 namespace QZCore {
 
-/// The entries and the file behind them. `mutex` guards everything but the
-/// saving itself, so that a slow disk keeps no reader waiting; `saving` lets
-/// one save pass at a time, so that an older state never follows a newer one.
-/// Whoever takes both takes `saving` first.
+/// The entries and the file behind them. `mutex` guards the entries. `saving`
+/// guards the rest and lets one save pass at a time, so that an older state
+/// never follows a newer one and a slow disk keeps no reader waiting. Whoever
+/// takes both takes `saving` first.
 struct Preferences::State {
-    std::mutex saving;
     std::mutex mutex;
     Dictionary entries;
+
+    std::mutex saving;
     std::string path;
     bool fileIsUnreadable = false;
 };

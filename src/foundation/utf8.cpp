@@ -63,11 +63,32 @@ void appendUTF8(std::string& bytes, char32_t value) {
     }
 }
 
+/// Whether all of `text` is ASCII. Looks at everything, so that many units can
+/// be looked at at once.
+template <class View>
+bool isAscii(View text) {
+    unsigned seen = 0;
+    for (const auto unit : text) seen |= static_cast<unsigned>(unit);
+    return seen < 0x80;
+}
+
+/// The units of a well-formed text: one for each byte that begins a character,
+/// another for each beyond U+FFFF.
+std::size_t unitCount(std::string_view bytes) {
+    std::size_t count = 0;
+    for (const char byte : bytes) {
+        count += (byte & 0xC0) != 0x80 ? 1U : 0U;
+        count += (byte & 0xF0) == 0xF0 ? 1U : 0U;
+    }
+    return count;
+}
+
 }  // namespace
 
 String fromUTF8(std::string_view bytes) {
+    if (isAscii(bytes)) return {bytes.begin(), bytes.end()};
     String text;
-    text.reserve(bytes.size());
+    text.reserve(unitCount(bytes));
     std::size_t at = 0;
     while (at < bytes.size()) {
         const auto byte = static_cast<std::uint8_t>(bytes[at]);
@@ -82,6 +103,7 @@ String fromUTF8(std::string_view bytes) {
 }
 
 std::string toUTF8(StringView text) {
+    if (isAscii(text)) return {text.begin(), text.end()};
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t at = 0; at < text.size();) {

@@ -95,10 +95,19 @@ public:
     }
 
 private:
+    // A place in the table of keys: the key's hash, and the entry's position
+    // plus one. A free place holds 0.
+    struct Slot {
+        std::uint32_t hash = 0;
+        std::uint32_t entry = 0;
+    };
+
     template <class Key>
     [[nodiscard]] std::size_t positionOf(const Key& key) const;
+    [[nodiscard]] const Value* valueAt(std::size_t position) const;
     void append(DictionaryEntry entry);
-    void addToIndex(std::size_t position);
+    void addToIndex(Slot added);
+    void growIndex();
     void rebuildIndex();
     void dropRemoved();
 
@@ -106,9 +115,9 @@ private:
     // places are of that kind.
     std::vector<DictionaryEntry> entries_;
     std::size_t removed_ = 0;
-    // Open addressing: places in `entries_` plus one, 0 for a free slot. Empty
-    // while the entries are few enough to be searched one by one.
-    std::vector<std::uint32_t> index_;
+    // Open addressing. Empty while the entries are few enough to be searched
+    // one by one.
+    std::vector<Slot> index_;
 };
 
 /// Whether both hold equal values under equal keys, in any order.

@@ -1,0 +1,21 @@
+// Base64 with the standard alphabet (RFC 4648, section 4).
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "QZCore/foundation/data.h"
+
+namespace QZCore {
+
+/// Appends `bytes` in base64 to `text`, with padding and without line breaks.
+void appendBase64(std::string& text, DataView bytes);
+
+/// The bytes that `text` stands for. White space (blank, tab, line ends)
+/// between the symbols is skipped; bits of the last symbol that no byte uses
+/// are ignored. Nothing when another character occurs or the padding is
+/// missing, too long or not at the end.
+[[nodiscard]] std::optional<Data> base64Decoded(std::string_view text);
+
+}  // namespace QZCore
