@@ -6,12 +6,24 @@
 
 #include "foundation/hash.h"
 
+#if QZCORE_WITH_PANGO
+#include "platform/machine_fonts.h"
+#endif
+
 namespace QZCore {
 namespace {
 
+std::shared_ptr<const FontCatalog> makeDefaultCatalog() {
+#if QZCORE_WITH_PANGO
+    return makeMachineFontCatalog();
+#else
+    return makeInMemoryFontCatalog();
+#endif
+}
+
 /// Made when it is first needed: reading the list of fonts takes a while.
 const std::shared_ptr<const FontCatalog>& defaultCatalog() {
-    static const auto& catalog = *new std::shared_ptr<const FontCatalog>(makeInMemoryFontCatalog());
+    static const auto& catalog = *new std::shared_ptr<const FontCatalog>(makeDefaultCatalog());
     return catalog;
 }
 

@@ -28,6 +28,16 @@ bool needsNoGlyph(char32_t character) {
            u_hasBinaryProperty(point, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) != 0;
 }
 
+double visibleCharacters(StringView text) {
+    double count = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        const CodePoint point = codePointAt(text, i);
+        if (!needsNoGlyph(point.value)) ++count;
+        i += point.length;
+    }
+    return count;
+}
+
 int distanceBetween(FaceStyle style, FaceStyle wanted) {
     const std::uint32_t wrong = (style.traits ^ wanted.traits) & (kFontItalic | kFontBold);
     return std::popcount(wrong) * kWrongTrait +

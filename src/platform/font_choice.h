@@ -16,6 +16,9 @@ namespace QZCore {
 /// Whether `character` is drawn by no glyph, so that every font shows it.
 [[nodiscard]] bool needsNoGlyph(char32_t character);
 
+/// How many characters of `text` are drawn by a glyph.
+[[nodiscard]] double visibleCharacters(StringView text);
+
 /// What makes two faces alike.
 struct FaceStyle {
     std::uint32_t traits = 0;

@@ -47,14 +47,8 @@ public:
     }
 
     [[nodiscard]] double widthOfText(StringView text, const Font& font) const override {
-        std::size_t visible = 0;
-        for (std::size_t i = 0; i < text.size();) {
-            const CodePoint point = codePointAt(text, i);
-            if (!needsNoGlyph(point.value)) ++visible;
-            i += point.length;
-        }
         const double width =
-            static_cast<double>(visible) * familyOf(font).advance * usableFontSize(font.pointSize);
+            visibleCharacters(text) * familyOf(font).advance * usableFontSize(font.pointSize);
         return std::min(width, std::numeric_limits<double>::max());
     }
 
