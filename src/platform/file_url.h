@@ -1,0 +1,17 @@
+// File URLs: the file behind one.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+#include "QZCore/foundation/data.h"
+
+namespace QZCore {
+
+/// The bytes of the file that `url` names ("file:///path", "file://localhost/path"
+/// or "file:/path", a query and a fragment ignored); nothing when it is no plain
+/// file of this machine, cannot be read or is longer than `limit`.
+[[nodiscard]] std::optional<Data> readFileUrl(std::string_view url, std::size_t limit);
+
+}  // namespace QZCore
