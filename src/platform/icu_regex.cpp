@@ -38,7 +38,10 @@ RegularExpression::RegularExpression(std::shared_ptr<const Compiled> compiled)
 std::optional<RegularExpression> RegularExpression::compile(StringView pattern,
                                                             std::uint32_t options,
                                                             std::int32_t budget) {
-    if ((options & ~kKnownOptions) != 0 || pattern.size() > kLongestRegexText) return std::nullopt;
+    if ((options & ~kKnownOptions) != 0) return std::nullopt;
+    // The engine would find the empty pattern everywhere; here it is no expression,
+    // so that an empty setting does not change every text.
+    if (pattern.empty() || pattern.size() > kLongestRegexText) return std::nullopt;
     UErrorCode status = U_ZERO_ERROR;
     UParseError position;
     std::unique_ptr<const icu::RegexPattern> engine(icu::RegexPattern::compile(
