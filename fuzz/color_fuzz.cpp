@@ -1,0 +1,38 @@
+// The readers of colour strings, and the printing of what they read.
+#include <cstring>
+
+#include "QZCore/color.h"
+#include "QZCore/foundation/log.h"
+#include "require.h"
+
+using namespace QZCore;
+
+namespace {
+
+struct Silence final : LogSink {
+    void write(StringView) override {}
+};
+
+/// The bytes as UTF-16 units in the machine's order; an odd byte is dropped.
+String unitsOf(const std::uint8_t* data, std::size_t size) {
+    String text(size / 2, u'\0');
+    if (!text.empty()) std::memcpy(text.data(), data, text.size() * 2);
+    return text;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const bool silenced = (setLogSink(std::make_shared<Silence>()), true);
+    (void)silenced;
+    const String text = unitsOf(data, size);
+    (void)Color::colorForHexString(text);
+    (void)Color::colorForRGBString(text);
+
+    const auto color = Color::colorForString(text);
+    require(color.has_value() == !text.empty());
+    if (!color) return 0;
+    const String once = Color::colorForString(color->stringForColor())->stringForColor();
+    require(Color::colorForString(once)->stringForColor() == once);
+    return 0;
+}
