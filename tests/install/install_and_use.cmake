@@ -1,5 +1,6 @@
 # Builds and installs the library as KIND below WORK_DIR, then builds and runs
-# the consumer against nothing but what was installed.
+# the consumer against nothing but what was installed. The library is compiled
+# as in the build that runs the test, so that ccache serves its objects.
 function(run)
   execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT result EQUAL 0)
@@ -18,6 +19,7 @@ endif()
 file(REMOVE_RECURSE ${prefix} ${WORK_DIR}/consumer)
 
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/library ${common}
+  -D QZCORE_WARNINGS_AS_ERRORS=${WARNINGS_AS_ERRORS}
   -D BUILD_SHARED_LIBS=${BUILD_SHARED_LIBS} -D CMAKE_SHARED_LINKER_FLAGS=-Wl,--no-undefined
   -D QZCORE_BUILD_TESTS=OFF -D QZCORE_BUILD_TOOLS=OFF)
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/library)
