@@ -1,2 +1,15 @@
-#define DOCTEST_CONFIG_IMPLEMENT_WITH_MAIN
+#define DOCTEST_CONFIG_IMPLEMENT
 #include <doctest/doctest.h>
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+
+int main(int count, char** arguments) {
+    // As applications do: no result may depend on the host's locale.
+    if (std::setlocale(LC_ALL, "") == nullptr && std::getenv("LC_NUMERIC") != nullptr) {
+        std::fputs("The locale that the environment names is not installed.\n", stderr);
+        return 1;
+    }
+    return doctest::Context(count, arguments).run();
+}

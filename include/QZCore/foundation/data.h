@@ -31,6 +31,7 @@ using DataView = std::span<const std::uint8_t>;
 /// An instant: seconds since 1 January 1970, 00:00:00 UTC, fractions and
 /// negative values included. Leap seconds are not counted.
 struct Date {
+    /// The seconds.
     double secondsSince1970 = 0;
 
     /// Exact comparison; a date that is not a number equals nothing.
@@ -39,6 +40,7 @@ struct Date {
 
 /// A uniform resource locator, kept as it was written.
 struct URL {
+    /// The text; not checked when it is set directly.
     String absoluteString;
 
     /// `string` as a URL, or nothing when it is empty or holds a character

@@ -17,7 +17,9 @@ namespace QZCore {
 
 /// A key and its value in a dictionary.
 struct DictionaryEntry {
+    /// Never absent in a dictionary.
     Value key;
+    /// Never absent in a dictionary.
     Value value;
 };
 

@@ -34,6 +34,7 @@ public:
 template <class T>
 class QZ_EXPORT Boxed final : public Object {
 public:
+    /// Holds `held`.
     explicit Boxed(T held) : value(std::move(held)) {}
 
     /// The value itself.

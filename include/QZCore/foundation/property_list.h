@@ -20,7 +20,9 @@ inline constexpr int kPropertyListDepthLimit = 512;
 
 /// What reading gave: the value, or an absent value and the reason in words.
 struct PropertyListResult {
+    /// What was read.
     Value value;
+    /// Empty when reading succeeded.
     String error;
 };
 
@@ -40,7 +42,9 @@ enum class PropertyListContainers { Immutable, Mutable };
 
 /// What writing gave: the bytes, or nothing and the reason in words.
 struct PropertyListData {
+    /// The whole list.
     std::optional<Data> data;
+    /// Empty when writing succeeded.
     String error;
 };
 

@@ -11,7 +11,9 @@ inline constexpr std::size_t kNotFound = static_cast<std::size_t>(INT64_MAX);
 
 /// `length` positions from `location` on.
 struct Range {
+    /// The first position.
     std::size_t location = 0;
+    /// The number of positions.
     std::size_t length = 0;
 
     /// The first position after the range. A range whose end would not fit

@@ -37,7 +37,9 @@ using StringView = std::u16string_view;
 
 /// One code point of a text and the number of units that it takes.
 struct CodePoint {
+    /// The code point, or an unpaired surrogate.
     char32_t value = 0;
+    /// 1 or 2.
     std::size_t length = 1;
 };
 
@@ -103,7 +105,9 @@ QZ_EXPORT void appendCodePoint(String& text, char32_t codePoint);
 /// What `readDouble` found: the number, and the units that it takes with the
 /// white space before it.
 struct ReadNumber {
+    /// The number, rounded to the nearest double.
     double value = 0;
+    /// The units read; 0 when there is no number.
     std::size_t length = 0;
 };
 

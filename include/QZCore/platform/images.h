@@ -20,6 +20,7 @@ struct Image {
     String mediaType;
     /// The size in points: pixels, unless a size was asked for.
     double width = 0;
+    /// The height, like the width.
     double height = 0;
     /// Whether this is the caution image that stands for a missing one.
     bool isCaution = false;

@@ -25,7 +25,9 @@ enum class UrlCachePolicy : std::int64_t {
 
 /// One fetch.
 struct UrlRequest {
+    /// What to fetch.
     URL url;
+    /// How the cache is used.
     UrlCachePolicy cachePolicy = UrlCachePolicy::UseProtocolCachePolicy;
     /// The longest time in seconds that the whole fetch may take; 0 or less,
     /// and anything above an hour, counts as an hour.
@@ -36,9 +38,13 @@ struct UrlRequest {
 
 /// What a cache holds and may hold, in bytes.
 struct UrlCacheUsage {
+    /// Held in memory.
     std::uint64_t memoryBytes = 0;
+    /// Allowed in memory.
     std::uint64_t memoryCapacity = 0;
+    /// Held on the disk.
     std::uint64_t diskBytes = 0;
+    /// Allowed on the disk.
     std::uint64_t diskCapacity = 0;
 };
 
@@ -60,7 +66,9 @@ public:
 
 /// How the cache of a loader is laid out.
 struct UrlCacheSettings {
+    /// The most bytes that are kept in memory.
     std::uint64_t memoryCapacity = std::uint64_t{16} << 20;
+    /// The most bytes that are kept in the folder.
     std::uint64_t diskCapacity = std::uint64_t{128} << 20;
     /// The folder for the part on the disk; none is kept when it is empty.
     std::string folder;
