@@ -16,6 +16,12 @@ set(QZCORE_PUBLIC_HEADERS
   foundation/range.h
   foundation/text.h
   foundation/value.h
+  markdown.h
+  markdown/detection.h
+  markdown/emoji.h
+  markdown/rendering.h
+  markdown/style_sheet.h
+  markdown/syntax.h
   platform.h
   platform/fonts.h
   platform/images.h

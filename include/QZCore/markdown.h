@@ -1,0 +1,9 @@
+// Markdown: the dialect's syntax, its detection in plain text, and its rendering
+// into rich text under a style sheet.
+#pragma once
+
+#include "QZCore/markdown/detection.h"
+#include "QZCore/markdown/emoji.h"
+#include "QZCore/markdown/rendering.h"
+#include "QZCore/markdown/style_sheet.h"
+#include "QZCore/markdown/syntax.h"

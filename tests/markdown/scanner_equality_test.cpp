@@ -1,0 +1,167 @@
+// The scanners against the regular expressions that define them.
+#include <cstdlib>
+#include <random>
+
+#include "QZCore/platform/regex.h"
+#include "markdown/scanner.h"
+#include "markdown/syntax_rows.h"
+#include "support/exact_copy.h"
+#include "support/printing.h"
+
+namespace QZCore {
+
+namespace {
+
+using testing::ExactCopy;
+
+// QZCORE_EQUALITY_TEXTS asks for more texts than a quick run has time for.
+int numberOfTexts() {
+    const char* asked = std::getenv("QZCORE_EQUALITY_TEXTS");
+    return asked == nullptr ? 20'000 : std::atoi(asked);
+}
+
+// The pieces that a row's pattern tells apart.
+std::vector<StringView> ownPieces(ScannerKind kind) {
+    switch (kind) {
+        case ScannerKind::Escape:
+            return {u"\\", u"\\", u"`", u"*", u"_", u"(", u"]", u"#", u"!"};
+        case ScannerKind::ItalicUnderscore:
+        case ScannerKind::ItalicUnderscoreIntraword:
+        case ScannerKind::Underline:
+            return {u"_", u"_", u"__", u"_a", u"a_", u"-"};
+        case ScannerKind::ItalicAsterisk:
+        case ScannerKind::Bold:
+            return {u"*", u"*", u"**", u"*a", u"a**", u"_"};
+        case ScannerKind::BoldItalic:
+            return {u"***", u"***", u"___", u"___", u"*", u"_", u"***a", u"___a", u"a***", u"a___"};
+        case ScannerKind::Strikethrough:
+            return {u"~~", u"~", u"~~a", u"a~~"};
+        case ScannerKind::HighlightEquals:
+            return {u"==", u"=", u"==a", u"a=="};
+        case ScannerKind::HighlightCaret:
+            return {u"^^", u"^", u"^^a", u"a^^"};
+        case ScannerKind::HighlightColon:
+            return {u"::", u":", u"::a", u"a::"};
+        case ScannerKind::InlineCode:
+            return {u"`", u"`", u"``", u"```", u"a`"};
+        case ScannerKind::Link:
+            return {u"[", u"]", u"(", u")", u"](", u"!", u"![a](", u"[b](c)"};
+        case ScannerKind::Headers:
+        case ScannerKind::HeadersNoSpace:
+            return {u"#", u"#", u"##", u"\n#", u"# ", u"######", u" "};
+        case ScannerKind::Emoji:
+            return {u":", u":", u":", u"_", u"-", u"+", u"Z", u"9", u"@", u"["};
+        case ScannerKind::CodeBlock:
+            return {u"```\n", u"```", u"`", u"\n", u"\n```\n"};
+        case ScannerKind::BlockQuote:
+            return {u">", u"\n>", u"> ", u">  ", u" "};
+        case ScannerKind::List:
+        case ScannerKind::ListLine:
+            return {u"-", u"*", u"+", u"\n- ", u"1.", u"\n12. ", u".", u"\n\n", u"\r\n\n", u" "};
+        case ScannerKind::Table:
+            return {u"|", u"|", u"-", u"+", u":", u".", u" ", u"\n|-", u"\n-"};
+        case ScannerKind::InlineMeta:
+            return {u"#", u"@", u" #", u"\n@", u" #ab", u"-", u".", u"=", u"/", u"_", u"ab"};
+    }
+    return {};
+}
+
+// Letters, blanks, line ends, and what tells character properties apart.
+constexpr StringView kCommonPieces[] = {
+    u"a",      u"b",      u"Z",      u"7",          u" ",          u" ",      u"\t",
+    u"\n",     u"\n",     u"\r",     u"\r\n",       u"\x85",       u"\v",     u"\f",
+    u"\u2028", u"\u2029", u"\u0301", u"\u200D",     u"\u200C",     u"\u00AD", u"\u0663",
+    u"\u00A0", u"\u3000", u"\u017F", u"\u212A",     u"\U0001D7CE", u"\xD83D", u"\xDE00",
+    u"\u6F22", u"\u203F", u"-",      u"\U0001F600", u"\u0345",     u"\u24B6", u"\U000E0101",
+};
+
+class TextMaker {
+public:
+    explicit TextMaker(ScannerKind kind)
+        : own_(ownPieces(kind)), random_(static_cast<unsigned>(kind) + 1) {}
+
+    String next() {
+        String text;
+        for (std::size_t pieces = below(22); pieces > 0; --pieces) {
+            text += below(5) < 3 ? own_[below(own_.size())]
+                                 : kCommonPieces[below(std::size(kCommonPieces))];
+        }
+        // Some texts are longer than the blocks in which units are searched.
+        if (below(8) == 0) text.insert(below(text.size() + 1), below(70), u'x');
+        return text;
+    }
+
+private:
+    std::size_t below(std::size_t bound) { return random_() % bound; }
+
+    std::vector<StringView> own_;
+    std::mt19937 random_;
+};
+
+Range rangeOf(SpanMatch::Span span) {
+    if (span == SpanMatch::Span{}) return kNotFoundRange;
+    return {span.start, span.end - span.start};
+}
+
+std::vector<std::vector<Range>> scannedRanges(const SyntaxRow& row, StringView text,
+                                              std::size_t limit = SIZE_MAX) {
+    std::vector<SpanMatch> matches;
+    scanMatches(row.scanner, text, matches, limit);
+    std::vector<std::vector<Range>> ranges;
+    for (const SpanMatch& match : matches) {
+        ranges.push_back({rangeOf(match.whole)});
+        for (std::size_t i = 0; i < row.numberOfGroups; ++i) {
+            ranges.back().push_back(rangeOf(match.groups[i]));
+        }
+    }
+    return ranges;
+}
+
+std::vector<std::vector<Range>> searchedRanges(const RegularExpression& expression,
+                                               StringView text) {
+    std::vector<std::vector<Range>> ranges;
+    for (RegexMatch& match : expression.matchesInString(text)) {
+        ranges.push_back(std::move(match.groups));
+    }
+    return ranges;
+}
+
+}  // namespace
+
+TEST_CASE("every scanner finds what its regular expression finds, groups included") {
+    for (const SyntaxRow& row : kSyntaxRows) {
+        const auto expression = RegularExpression::compile(row.pattern, row.options);
+        REQUIRE(expression);
+        CAPTURE(expression->pattern());
+        REQUIRE(expression->numberOfCaptureGroups() == row.numberOfGroups);
+        TextMaker texts(row.scanner);
+        std::size_t found = 0;
+        for (int i = numberOfTexts(); i > 0; --i) {
+            const ExactCopy copy(texts.next());
+            const StringView text = copy;
+            const auto expected = searchedRanges(*expression, text);
+            if (scannedRanges(row, text) != expected) {
+                CAPTURE(text);
+                REQUIRE(scannedRanges(row, text) == expected);
+            }
+            found += expected.size();
+        }
+        CHECK(found > 1000);
+    }
+}
+
+TEST_CASE("a search with a limit finds the first matches") {
+    for (const SyntaxRow& row : kSyntaxRows) {
+        TextMaker texts(row.scanner);
+        for (int i = 0; i < 1000; ++i) {
+            const String text = texts.next();
+            auto expected = scannedRanges(row, text);
+            for (const std::size_t limit : {2U, 1U, 0U}) {
+                if (expected.size() > limit) expected.resize(limit);
+                REQUIRE(scannedRanges(row, text, limit) == expected);
+            }
+        }
+    }
+}
+
+}  // namespace QZCore
