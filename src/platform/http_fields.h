@@ -9,13 +9,13 @@ namespace QZCore {
 /// The values as they came; a field that came several times is joined by
 /// ", ", one that did not come is empty.
 struct HttpFields {
-    std::string cacheControl;
-    std::string expires;
-    std::string date;
-    std::string age;
-    std::string lastModified;
-    std::string entityTag;
-    std::string vary;
+    std::string cacheControl{};
+    std::string expires{};
+    std::string date{};
+    std::string age{};
+    std::string lastModified{};
+    std::string entityTag{};
+    std::string vary{};
 
     friend bool operator==(const HttpFields&, const HttpFields&) = default;
 };

@@ -37,14 +37,14 @@ class QZ_EXPORT ImageDecoder {
 public:
     virtual ~ImageDecoder();
 
-    /// The image that `bytes` hold, decoded once to be sure; nothing when they
-    /// are no image, are cut off or damaged, or hold more than 40 million
-    /// pixels.
+    /// The image that `bytes` hold; nothing when they are no image, are cut off
+    /// or damaged, hold more than 40 million pixels, or are more than 64 MB.
     [[nodiscard]] virtual std::optional<Image> decode(DataView bytes) const = 0;
 };
 
-/// Makes the decoder of the platform; empty when the library was built without
-/// one.
+/// Makes the decoder of the platform, which reads PNG, JPEG, GIF, BMP and TIFF,
+/// decoding the pixels once to be sure, and SVG; empty when the library was
+/// built without one.
 [[nodiscard]] QZ_EXPORT std::shared_ptr<const ImageDecoder> makePlatformImageDecoder();
 
 /// The decoder that the library uses: the platform's, unless the application

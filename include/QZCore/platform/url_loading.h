@@ -15,7 +15,8 @@
 
 namespace QZCore {
 
-/// How a fetch uses the cache. The numbers are stored in preferences.
+/// How a fetch uses the cache. The numbers are stored in preferences; any other
+/// number counts as 0. Files are read whatever the policy says.
 enum class UrlCachePolicy : std::int64_t {
     UseProtocolCachePolicy = 0,    // what the response headers allow
     ReloadIgnoringLocalCache = 1,  // always ask the server
@@ -36,7 +37,8 @@ struct UrlRequest {
     std::size_t byteLimit = std::size_t{64} << 20;
 };
 
-/// What a cache holds and may hold, in bytes.
+/// What a cache holds and may hold, in bytes. A part that is not kept has a
+/// capacity of 0.
 struct UrlCacheUsage {
     /// Held in memory.
     std::uint64_t memoryBytes = 0;
@@ -57,25 +59,28 @@ public:
     /// slow, too long, cut short, too many redirects, a folder, another scheme.
     [[nodiscard]] virtual std::optional<Data> load(const UrlRequest& request) = 0;
 
-    /// Whether the cache holds an answer for the URL.
+    /// Whether the cache holds an answer for the URL, however old.
     [[nodiscard]] virtual bool hasCachedResponse(const URL& url) = 0;
 
     /// What the cache holds.
     [[nodiscard]] virtual UrlCacheUsage cacheUsage() = 0;
 };
 
-/// How the cache of a loader is laid out.
+/// How the cache of a loader is laid out. Each part forgets what has not been
+/// used for longest when it would grow beyond its capacity, in bytes.
 struct UrlCacheSettings {
     /// The most bytes that are kept in memory.
     std::uint64_t memoryCapacity = std::uint64_t{16} << 20;
     /// The most bytes that are kept in the folder.
     std::uint64_t diskCapacity = std::uint64_t{128} << 20;
-    /// The folder for the part on the disk; none is kept when it is empty.
-    std::string folder;
+    /// The folder for the part on the disk, which is made when it is missing;
+    /// no such part is kept when it is empty. Processes may share a folder.
+    std::string folder{};
 };
 
-/// Makes a loader that fetches over the network; empty when the library was
-/// built without one.
+/// Makes a loader that fetches over the network and reads files; empty when the
+/// library was built without one. Redirects are followed ten times and never
+/// to a file.
 [[nodiscard]] QZ_EXPORT std::shared_ptr<UrlLoader> makeNetworkUrlLoader(
     const UrlCacheSettings& settings = {});
 
