@@ -13,6 +13,11 @@ namespace QZCore {
 /// `size` when it is positive and finite, else `kFontDefaultSize`.
 [[nodiscard]] double usableFontSize(double size);
 
+/// Whether `character` is one at all: no surrogate and not beyond U+10FFFF.
+[[nodiscard]] constexpr bool isCharacter(char32_t character) {
+    return character < 0xD800 || (character > 0xDFFF && character <= 0x10FFFF);
+}
+
 /// Whether `character` is drawn by no glyph, so that every font shows it.
 [[nodiscard]] bool needsNoGlyph(char32_t character);
 

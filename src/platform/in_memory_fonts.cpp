@@ -96,7 +96,7 @@ private:
 
     [[nodiscard]] static bool shows(const InMemoryFontFamily& family, char32_t character) {
         if (needsNoGlyph(character)) return true;
-        if (character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) return false;
+        if (!isCharacter(character)) return false;
         return family.coverage.empty() ||
                std::ranges::any_of(family.coverage, [&](const auto& bounds) {
                    return character >= bounds.first && character <= bounds.second;

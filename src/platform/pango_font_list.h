@@ -5,50 +5,14 @@
 // read it without a lock.
 #pragma once
 
-#include <compare>
 #include <map>
-#include <optional>
 #include <span>
-#include <string>
 #include <unordered_map>
 #include <vector>
 
-#include "QZCore/platform/fonts.h"
-#include "platform/font_choice.h"
-#include "platform/pango_fontconfig.h"
+#include "platform/pango_font_patterns.h"
 
 namespace QZCore {
-
-/// Where a face is stored.
-struct FontFile {
-    std::string path;
-    int index = 0;
-
-    friend auto operator<=>(const FontFile&, const FontFile&) = default;
-};
-
-/// The file that `pattern` names, if it names one.
-[[nodiscard]] std::optional<FontFile> fontFileOf(const FcPattern* pattern);
-
-/// A face that is installed.
-struct InstalledFace {
-    String family;
-    FontMember member;
-    /// Fontconfig's width: 100 is normal, less is condensed.
-    double width = FC_WIDTH_NORMAL;
-    int version = 0;
-    FontFile file;
-    /// What fontconfig knows of it.
-    OwnedFcPattern pattern;
-    /// The characters that it has glyphs for, a part of `pattern`.
-    const FcCharSet* coverage = nullptr;
-
-    [[nodiscard]] FaceStyle style() const { return {member.traits, member.weight}; }
-    /// Whether it has a glyph for `character`.
-    [[nodiscard]] bool covers(char32_t character) const {
-        return FcCharSetHasChar(coverage, character) == FcTrue;
-    }
-};
 
 /// All faces, sorted by family; within one normal width comes first, then
 /// upright, then what is nearest to regular.

@@ -39,12 +39,7 @@ std::vector<const InstalledFace*> FontSubstitutes::orderFor(const InstalledFace&
 /// `face`.
 std::vector<std::size_t> FontSubstitutes::ranksFor(const InstalledFace& face) const {
     std::vector<std::size_t> ranks(list_.faces().size(), list_.faces().size());
-    const OwnedFcPattern pattern(FcPatternCreate());
-    const std::string family = toUTF8(face.family);
-    FcPatternAddString(pattern.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
-    FcConfigSubstitute(config_, pattern.get(), FcMatchPattern);
-    FcDefaultSubstitute(pattern.get());
-
+    const OwnedFcPattern pattern = patternForFamily(face.family, config_);
     FcResult result = FcResultNoMatch;
     const OwnedFcFontSet sorted(FcFontSort(config_, pattern.get(), FcFalse, nullptr, &result));
     std::size_t rank = 0;

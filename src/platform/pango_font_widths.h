@@ -1,8 +1,6 @@
 // The widths of texts, as Pango shapes them.
 #pragma once
 
-#include <pango/pango.h>
-
 #include <memory>
 #include <mutex>
 

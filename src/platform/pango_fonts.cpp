@@ -11,7 +11,7 @@ namespace QZCore {
 namespace {
 
 /// What names the user's font, and is all of it on a machine without fonts.
-constexpr const char* kUserFamily = "sans-serif";
+constexpr StringView kUserFamily = u"sans-serif";
 
 /// The width of a character, in sizes, on a machine without fonts.
 constexpr double kAdvanceWithoutFonts = 0.5;
@@ -20,9 +20,7 @@ constexpr double kAdvanceWithoutFonts = 0.5;
 /// the list when it takes one that is not listed, null when the list is empty.
 const InstalledFace* userFaceOf(const FontList& list, FcConfig* config) {
     if (list.faces().empty()) return nullptr;
-    const OwnedFcPattern wanted(FcNameParse(reinterpret_cast<const FcChar8*>(kUserFamily)));
-    FcConfigSubstitute(config, wanted.get(), FcMatchPattern);
-    FcDefaultSubstitute(wanted.get());
+    const OwnedFcPattern wanted = patternForFamily(kUserFamily, config);
     FcResult result = FcResultNoMatch;
     const OwnedFcPattern match(FcFontMatch(config, wanted.get(), &result));
     const auto file = match == nullptr ? std::nullopt : fontFileOf(match.get());
@@ -62,9 +60,9 @@ public:
 
     [[nodiscard]] Font userFont(double size) const override {
         if (userFace_ != nullptr) return fontOfMember(userFace_->family, userFace_->member, size);
-        Font font{.familyName = fromUTF8(kUserFamily), .faceName = fromUTF8(kUserFamily)};
-        font.pointSize = usableFontSize(size);
-        return font;
+        return {.familyName = String(kUserFamily),
+                .faceName = String(kUserFamily),
+                .pointSize = usableFontSize(size)};
     }
 
     [[nodiscard]] double widthOfText(StringView text, const Font& font) const override {

@@ -88,8 +88,9 @@ public:
     /// The names of all families, sorted by code unit, each once.
     [[nodiscard]] virtual std::vector<String> availableFamilies() const = 0;
 
-    /// The faces of `family` in a fixed order, regular upright faces first;
-    /// empty when the family is not installed. Faces that would only be
+    /// The faces of `family` in a fixed order: faces of normal width first,
+    /// among them the upright ones first, among those the regular one first.
+    /// Empty when the family is not installed. Faces that would only be
     /// imitated (a slanted regular face, say) are not listed.
     [[nodiscard]] virtual std::vector<FontMember> membersOfFamily(StringView family) const = 0;
 
@@ -102,15 +103,18 @@ public:
     [[nodiscard]] virtual Font userFont(double size) const = 0;
 
     /// The advance width of one line of text in points, without rounding;
-    /// finite and never negative. Control characters take no room, and an
-    /// unpaired surrogate is measured as U+FFFD.
+    /// finite and never negative. Each character is measured in the font or,
+    /// where the font does not show it, in its substitute. Control characters
+    /// and line ends take no room, and an unpaired surrogate is measured as
+    /// U+FFFD.
     [[nodiscard]] virtual double widthOfText(StringView text, const Font& font) const = 0;
 
     /// Whether the font itself has a glyph for `character`. Characters that
     /// need none count as shown by every font: control and format characters,
     /// variation selectors and other ignorable ones, line and paragraph
     /// separators, and U+FFFC, which stands for an attachment. Surrogates and
-    /// values beyond U+10FFFF are shown by none.
+    /// values beyond U+10FFFF are shown by none. Takes no lock, and no longer
+    /// than to look the font's name up.
     [[nodiscard]] virtual bool showsCharacter(const Font& font, char32_t character) const = 0;
 
     /// A font of the same size, as near as possible in traits and weight, that
@@ -136,11 +140,12 @@ struct InMemoryFontFamily {
     String name;
     /// Its faces, in the order in which they are listed.
     std::vector<FontMember> members;
-    /// The advance of every code point at a size of 1 point.
+    /// The advance of every code point at a size of 1 point, whether its faces
+    /// show it or not; characters that need no glyph take no room.
     double advance = 0.5;
     /// The code points that its faces show, as inclusive bounds; all of them
     /// when empty.
-    std::vector<std::pair<char32_t, char32_t>> coverage;
+    std::vector<std::pair<char32_t, char32_t>> coverage = {};
 };
 
 /// Makes a catalogue of the given families, the first of which is the user's.
