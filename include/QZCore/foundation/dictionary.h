@@ -42,11 +42,17 @@ public:
     [[nodiscard]] const Value* find(StringView key) const;
     /// The value under `key`, or null when the key is absent.
     [[nodiscard]] const Value* find(const Value& key) const;
+    /// The value under `key`, or null when the key is absent.
+    [[nodiscard]] const Value* find(const char16_t* key) const { return find(StringView(key)); }
 
     /// The value under `key`; absent when the key is.
     [[nodiscard]] Value objectForKey(StringView key) const;
     /// The value under `key`; absent when the key is.
     [[nodiscard]] Value objectForKey(const Value& key) const;
+    /// The value under `key`; absent when the key is.
+    [[nodiscard]] Value objectForKey(const char16_t* key) const {
+        return objectForKey(StringView(key));
+    }
 
     /// Stores `object` under the key. An absent object or an absent key does
     /// nothing.
