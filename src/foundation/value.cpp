@@ -99,6 +99,7 @@ struct Value::DictionaryBox {
     ~DictionaryBox() {
         Array containers;
         for (const DictionaryEntry& entry : entries) {
+            if (holdsContainer(entry.key)) containers.push_back(entry.key);
             if (holdsContainer(entry.value)) containers.push_back(entry.value);
         }
         if (containers.empty()) return;

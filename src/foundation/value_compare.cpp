@@ -1,19 +1,89 @@
+#include <type_traits>
+#include <unordered_set>
 #include <utility>
 
 #include "QZCore/foundation/dictionary.h"
 #include "QZCore/foundation/value.h"
+#include "foundation/hash.h"
 
 namespace QZCore {
 namespace {
+
+/// Exactly, where the conversion of the integer to a double would round.
+template <class Integer>
+bool sameNumber(Integer integer, double real) {
+    const double beyond = std::is_signed_v<Integer> ? 0x1p63 : 0x1p64;
+    return static_cast<double>(integer) == real && real < beyond &&
+           static_cast<Integer>(real) == integer;
+}
+
+bool sameNumber(const Value& integer, double real) {
+    return integer.kind() == ValueKind::Unsigned ? sameNumber(integer.unsignedIntegerValue(), real)
+                                                 : sameNumber(integer.integerValue(), real);
+}
+
+bool equalNumbers(const Value& a, const Value& b) {
+    const bool aIsReal = a.kind() == ValueKind::Real;
+    const bool bIsReal = b.kind() == ValueKind::Real;
+    if (aIsReal && bIsReal) return a.doubleValue() == b.doubleValue();
+    if (aIsReal) return sameNumber(b, a.doubleValue());
+    if (bIsReal) return sameNumber(a, b.doubleValue());
+    // Each side's range ends where the other's goes on.
+    return a.integerValue() == b.integerValue() &&
+           a.unsignedIntegerValue() == b.unsignedIntegerValue();
+}
+
+/// Remembers the pairs of containers that wait to be compared or were, so that
+/// no pair is compared twice: containers that are shared many times, or that
+/// hold themselves, would never end. Few pairs are not worth remembering.
+class SeenPairs {
+public:
+    /// Whether the pair was there before.
+    bool add(const void* a, const void* b) {
+        constexpr std::size_t kFew = 4096;
+        if (++count_ <= kFew) return false;
+        return !pairs_.insert({a, b}).second;
+    }
+
+private:
+    struct Hash {
+        std::size_t operator()(const std::pair<const void*, const void*>& pair) const {
+            return hashCombine(reinterpret_cast<std::uintptr_t>(pair.first),
+                               reinterpret_cast<std::uintptr_t>(pair.second));
+        }
+    };
+
+    std::size_t count_ = 0;
+    std::unordered_set<std::pair<const void*, const void*>, Hash> pairs_;
+};
+
+/// Counts the comparisons of a thread that run inside one another. Sets and
+/// keys find each other by comparing, and objects compare what they hold: so
+/// deep in one another, only identical ones count as equal.
+class Nesting {
+public:
+    Nesting() { ++depth(); }
+    ~Nesting() { --depth(); }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+    [[nodiscard]] static bool isTooDeep() {
+        constexpr int kDeepest = 100;
+        return depth() > kDeepest;
+    }
+
+private:
+    static int& depth() {
+        static thread_local int value = 0;
+        return value;
+    }
+};
 
 /// The comparison of two values, nested containers included, without
 /// recursion: pairs that are still to compare wait in a list.
 class Comparison {
 public:
-    bool equal(const Value& a, const Value& b) {
-        pending_.push_back({&a, &b});
-        return finish();
-    }
+    bool equal(const Value& a, const Value& b) { return equalOrPending(a, b) && finish(); }
 
     bool equal(const Dictionary& a, const Dictionary& b) { return compareLater(a, b) && finish(); }
 
@@ -52,20 +122,10 @@ private:
         }
     }
 
-    static bool equalNumbers(const Value& a, const Value& b) {
-        if (a.kind() == ValueKind::Real || b.kind() == ValueKind::Real) {
-            return a.doubleValue() == b.doubleValue();
-        }
-        if (a.kind() == ValueKind::Unsigned || b.kind() == ValueKind::Unsigned) {
-            const bool sameSign = (a.integerValue() < 0) == (b.integerValue() < 0);
-            return sameSign && a.unsignedIntegerValue() == b.unsignedIntegerValue();
-        }
-        return a.integerValue() == b.integerValue();
-    }
-
     bool compareLater(const Array& a, const Array& b) {
         if (&a == &b) return true;
         if (a.size() != b.size()) return false;
+        if (seen_.add(&a, &b)) return true;
         for (std::size_t i = 0; i < a.size(); ++i) pending_.push_back({&a[i], &b[i]});
         return true;
     }
@@ -73,6 +133,7 @@ private:
     bool compareLater(const Dictionary& a, const Dictionary& b) {
         if (&a == &b) return true;
         if (a.count() != b.count()) return false;
+        if (seen_.add(&a, &b)) return true;
         for (const DictionaryEntry& entry : a) {
             const Value* other = b.find(entry.key);
             if (other == nullptr) return false;
@@ -82,14 +143,20 @@ private:
     }
 
     std::vector<std::pair<const Value*, const Value*>> pending_;
+    SeenPairs seen_;
 };
 
 }  // namespace
 
 bool operator==(const Value& a, const Value& b) {
-    return a.isIdentical(b) || Comparison().equal(a, b);
+    if (a.isIdentical(b)) return true;
+    const Nesting nesting;
+    return !Nesting::isTooDeep() && Comparison().equal(a, b);
 }
 
-bool operator==(const Dictionary& a, const Dictionary& b) { return Comparison().equal(a, b); }
+bool operator==(const Dictionary& a, const Dictionary& b) {
+    const Nesting nesting;
+    return Nesting::isTooDeep() ? &a == &b : Comparison().equal(a, b);
+}
 
 }  // namespace QZCore

@@ -1,4 +1,5 @@
 #include <deque>
+#include <unordered_set>
 #include <utility>
 
 #include "QZCore/foundation/dictionary.h"
@@ -8,24 +9,35 @@ namespace QZCore {
 namespace {
 
 /// Writes a value and what it contains, without recursion: what is still to be
-/// written waits in a list, texts and values alike.
+/// written waits in a list, texts and values alike. A container inside itself,
+/// and what goes beyond all that anybody reads, become dots.
 class Description {
 public:
     String of(const Value& value) {
-        pending_.push_back({&value, u""});
+        constexpr std::size_t kMostUnits = std::size_t{1} << 24;
+        pending_.push_back({&value, {}, nullptr});
         while (!pending_.empty()) {
-            const auto [next, text] = pending_.back();
+            const Piece next = pending_.back();
             pending_.pop_back();
-            if (next == nullptr) {
-                result_ += text;
+            if (result_.size() > kMostUnits) return std::move(result_ += u"...");
+            if (next.value == nullptr) {
+                result_ += next.text;
+                open_.erase(next.closes);
             } else {
-                write(*next);
+                write(*next.value);
             }
         }
         return std::move(result_);
     }
 
 private:
+    /// A value, or a text and the container that ends with it.
+    struct Piece {
+        const Value* value;
+        StringView text;
+        const void* closes;
+    };
+
     void write(const Value& value) {
         switch (value.kind()) {
             case ValueKind::Absent:
@@ -38,14 +50,13 @@ private:
                 result_ += u"<" + unsignedString(value.data()->size()) + u" bytes>";
                 break;
             case ValueKind::List:
-                writeLater(*value.array(), u"[", u"]");
+                if (open(value.array(), u"[", u"]")) writeLater(*value.array());
                 break;
             case ValueKind::Set:
-                sets_.push_back(value.set()->allObjects());
-                writeLater(sets_.back(), u"{(", u")}");
+                if (open(value.set(), u"{(", u")}")) writeLater(*value.set());
                 break;
             case ValueKind::Dictionary:
-                writeLater(*value.dictionary());
+                if (open(value.dictionary(), u"{", u"}")) writeLater(*value.dictionary());
                 break;
             case ValueKind::Object:
                 result_ += value.object()->description();
@@ -56,29 +67,46 @@ private:
         }
     }
 
-    void writeLater(const Array& elements, StringView open, StringView close) {
-        result_ += open;
-        pending_.push_back({nullptr, close});
-        for (std::size_t i = elements.size(); i-- > 0;) {
-            pending_.push_back({&elements[i], u""});
-            if (i > 0) pending_.push_back({nullptr, u", "});
+    /// Whether `container` begins here; it has begun already when it is inside
+    /// itself.
+    bool open(const void* container, StringView opening, StringView closing) {
+        if (!open_.insert(container).second) {
+            result_ += u"...";
+            return false;
         }
+        result_ += opening;
+        pending_.push_back({nullptr, closing, container});
+        return true;
+    }
+
+    void writeLater(const Array& elements) {
+        for (std::size_t i = elements.size(); i-- > 0;) {
+            writeLater(elements[i]);
+            if (i > 0) writeLater(u", ");
+        }
+    }
+
+    void writeLater(const Set& members) {
+        sets_.push_back(members.allObjects());
+        writeLater(sets_.back());
     }
 
     void writeLater(const Dictionary& entries) {
-        result_ += u"{";
-        pending_.push_back({nullptr, u"}"});
         std::vector<const DictionaryEntry*> inOrder;
         for (const DictionaryEntry& entry : entries) inOrder.push_back(&entry);
         for (std::size_t i = inOrder.size(); i-- > 0;) {
-            pending_.push_back({&inOrder[i]->value, u""});
-            pending_.push_back({nullptr, u" = "});
-            pending_.push_back({&inOrder[i]->key, u""});
-            if (i > 0) pending_.push_back({nullptr, u"; "});
+            writeLater(inOrder[i]->value);
+            writeLater(u" = ");
+            writeLater(inOrder[i]->key);
+            if (i > 0) writeLater(u"; ");
         }
     }
 
-    std::vector<std::pair<const Value*, StringView>> pending_;
+    void writeLater(const Value& value) { pending_.push_back({&value, {}, nullptr}); }
+    void writeLater(const char16_t* text) { pending_.push_back({nullptr, text, nullptr}); }
+
+    std::vector<Piece> pending_;
+    std::unordered_set<const void*> open_;
     std::deque<Array> sets_;  // stays in place while its values wait
     String result_;
 };

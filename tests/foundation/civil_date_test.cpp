@@ -8,9 +8,8 @@ namespace QZCore {
 
 TEST_CASE("days are counted as the standard library counts them") {
     namespace chrono = std::chrono;
-    for (std::int64_t days = -12'000'000; days < 12'000'000; days += 37) {
+    for (std::int64_t days = -12'600'000; days < 11'200'000; days += 101) {
         const chrono::year_month_day expected{chrono::sys_days{chrono::days{days}}};
-        if (!expected.ok()) continue;  // years beyond 16 bits
         const CivilDate date = civilFromDays(days);
         REQUIRE(date.year == static_cast<int>(expected.year()));
         REQUIRE(date.month == static_cast<int>(static_cast<unsigned>(expected.month())));
