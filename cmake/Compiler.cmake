@@ -12,12 +12,10 @@ endif()
 
 # The cache may serve one build folder from another: sources are compiled by
 # absolute path, so nothing depends on the folder that the compiler runs in.
-# The sloppiness is what ccache asks for with precompiled headers.
 find_program(CCACHE_PROGRAM ccache)
 mark_as_advanced(CCACHE_PROGRAM)
 if(PROJECT_IS_TOP_LEVEL AND CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
-    CCACHE_NOHASHDIR=true CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_NOHASHDIR=true ${CCACHE_PROGRAM})
 endif()
 
 # Results that are fixed to single precision must not change with the target:
