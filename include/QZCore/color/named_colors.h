@@ -16,7 +16,9 @@ namespace QZCore {
 
 /// A name and its colour.
 struct NamedColor {
+    /// The name, as it is printed.
     StringView name;
+    /// What the name reads as.
     Color color;
 };
 

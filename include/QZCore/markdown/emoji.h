@@ -11,7 +11,9 @@ namespace QZCore {
 
 /// A short code, without its colons and in lower case, and its emoji.
 struct EmojiShortcode {
+    /// The code.
     StringView code;
+    /// One emoji, of one or more code points.
     StringView emoji;
 };
 

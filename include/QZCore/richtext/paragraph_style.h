@@ -33,6 +33,7 @@ enum class WritingDirection : std::int8_t { Natural = -1, LeftToRight = 0, Right
 
 /// A position to which a tab character leads.
 struct TextTab {
+    /// Which side of the text stands at the position.
     TextAlignment alignment = TextAlignment::Natural;
     /// The distance from the margin.
     double location = 0;
@@ -66,6 +67,7 @@ struct TextBlock {
 /// The style of a paragraph. A style with all defaults is the default
 /// paragraph style.
 struct ParagraphStyle {
+    /// Where lines stand between the margins.
     TextAlignment alignment = TextAlignment::Natural;
     /// The least height of a line; 0 means none is asked for.
     double minimumLineHeight = 0;
@@ -86,6 +88,7 @@ struct ParagraphStyle {
     /// Where lines end: from the leading margin when positive, from the
     /// trailing margin when 0 or negative.
     double tailIndent = 0;
+    /// Natural follows the first letter.
     WritingDirection baseWritingDirection = WritingDirection::Natural;
     /// Tab stops in order of location.
     std::vector<TextTab> tabStops;

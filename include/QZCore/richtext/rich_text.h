@@ -24,7 +24,9 @@ namespace QZCore {
 
 /// A stretch of a text with one set of attributes.
 struct TextRun {
+    /// Where it stands in the text.
     Range range;
+    /// What all of its units carry.
     TextAttributes attributes;
 };
 
@@ -60,7 +62,9 @@ public:
     /// A value and the longest stretch around a position over which it is the
     /// same.
     struct AttributeRange {
+        /// Absent where the attribute is not set.
         Value value;
+        /// Where the value is the same.
         Range range;
     };
     /// The value of the attribute `name` at `index`, absent included, and the
@@ -171,7 +175,9 @@ private:
 
 /// A run as a walk shows it; the attributes belong to the text.
 struct TextRunView {
+    /// Where it stands in the text.
     Range range;
+    /// What all of its units carry.
     const TextAttributes& attributes;
 };
 

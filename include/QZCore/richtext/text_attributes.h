@@ -78,9 +78,11 @@ inline constexpr char16_t kAttachmentCharacter = 0xFFFC;
 
 /// Something that is no text and stands in one: an image.
 struct TextAttachment {
+    /// The image; empty when there is none to show.
     std::shared_ptr<const Image> image;
     /// The size at which it is shown, in points.
     double width = 0;
+    /// The height, like the width.
     double height = 0;
     /// What stands for the image where it cannot be seen.
     String alternativeText;
@@ -100,7 +102,9 @@ struct TextAttachment {
 
 /// One attribute: its name and its value.
 struct TextAttribute {
+    /// One of the names above, or the caller's own.
     AttributeName name;
+    /// Never absent in a set.
     Value value;
 };
 
