@@ -1,0 +1,3 @@
+#include "runs_writer.h"
+
+int main() { return 0; }
