@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 
 #include "QZCore/foundation/text.h"
 
@@ -17,6 +18,13 @@ namespace QZCore {
 
 /// A decimal digit of any script.
 [[nodiscard]] bool isDecimalDigit(char32_t codePoint);
+
+/// The value of a decimal digit of any script; nothing for other characters.
+[[nodiscard]] std::optional<unsigned> decimalDigitValue(char32_t codePoint);
+
+/// Whether the character is a mark that can change places with its neighbours
+/// when marks are put into canonical order.
+[[nodiscard]] bool isReorderedMark(char32_t codePoint);
 
 /// The code point that ends at `index`, which must be above 0. An unpaired
 /// surrogate is returned as itself.

@@ -38,6 +38,17 @@ bool isDecimalDigit(char32_t codePoint) {
     return u_charType(engineCodePoint(codePoint)) == U_DECIMAL_DIGIT_NUMBER;
 }
 
+std::optional<unsigned> decimalDigitValue(char32_t codePoint) {
+    const std::int32_t value = u_charDigitValue(engineCodePoint(codePoint));
+    if (value < 0) return std::nullopt;
+    return static_cast<unsigned>(value);
+}
+
+bool isReorderedMark(char32_t codePoint) {
+    constexpr char32_t kFirstMark = 0x300;
+    return codePoint >= kFirstMark && u_getCombiningClass(engineCodePoint(codePoint)) != 0;
+}
+
 CodePoint codePointBefore(StringView text, std::size_t index) {
     const char16_t last = text[index - 1];
     if (index > 1 && isLowSurrogate(last) && isHighSurrogate(text[index - 2])) {
