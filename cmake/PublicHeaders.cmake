@@ -4,6 +4,13 @@ set(QZCORE_PUBLIC_HEADERS
   color/color.h
   color/named_colors.h
   color/stored_colors.h
+  codecs.h
+  codecs/character_set.h
+  codecs/comparing.h
+  codecs/file_names.h
+  codecs/parsing.h
+  codecs/transforming.h
+  codecs/uuid.h
   export.h
   foundation.h
   foundation/data.h
