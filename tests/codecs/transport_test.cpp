@@ -1,0 +1,68 @@
+#include "QZCore/codecs/transforming.h"
+#include "codecs/percent.h"
+#include "support/exact_copy.h"
+#include "support/printing.h"
+#include "support/random_texts.h"
+
+namespace QZCore {
+namespace {
+
+constexpr StringView kUnits = u"aZ09=%+/?:#[]@!$&'()*;, \r\n~é\u20AC\uFEFF\u0000";
+
+String randomWellFormedText(testing::RandomTexts& texts) {
+    return texts.next(8) + u"\U0001F600" + texts.next(8);
+}
+
+}  // namespace
+
+TEST_CASE("quoted-printable text is read as written") {
+    CHECK(stringToQuotedPrintableFormat(u"A") == u"=41");
+    CHECK(stringToQuotedPrintableFormat(u"é") == u"=C3=A9");
+    CHECK(stringToQuotedPrintableFormat(u"\xD800") == u"=EF=BF=BD");
+    struct Row {
+        const char* why;
+        StringView text;
+        std::optional<String> plain;
+    };
+    const Row rows[] = {
+        {"a soft line break within a character", u"=C3=\r\n=A9", u"é"},
+        {"lower-case digits", u"=c3=a9", u"é"},
+        {"text around it", u"a =3D b\r\n", u"a = b\r\n"},
+        {"percent signs are read as well", u"%41", u"A"},
+        {"characters that are not encoded", u"é\xD800=41",
+         u"é\xD800"
+         u"A"},
+        {"a line break that is left by another", u"==\r\n\r\n", std::nullopt},
+        {"one digit", u"a=4", std::nullopt},
+        {"no digits", u"a=xy", std::nullopt},
+        {"a percent sign alone", u"100%", std::nullopt},
+        {"bytes that are not UTF-8", u"=FF", std::nullopt},
+        {"a character that text interrupts", u"=C3x=A9", std::nullopt},
+        {"nothing", u"", u""},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.why);
+        CHECK(stringFromQuotedPrintableFormat(testing::ExactCopy(row.text)) == row.plain);
+    }
+}
+
+TEST_CASE("URLs keep what their parts allow") {
+    CHECK(percentEncodePath(u"/a b/é;c?d#e%f") == u"/a%20b/%C3%A9;c%3Fd%23e%25f");
+    CHECK(percentEncodePath(u"-._~!$&'()*+,;=:@/[]") == u"-._~!$&'()*+,;=:@/%5B%5D");
+    CHECK(percentEncodeQuery(u"a=b&c/?-._~") == u"a%3Db%26c/?-._~");
+    CHECK(percentEncodeQuery(u":#[]@!$&'()*+,;=") ==
+          u"%3A%23%5B%5D%40%21%24%26%27%28%29%2A%2B%2C%3B%3D");
+    CHECK(percentEncodePath(StringView(u"\0\xDC00", 2)) == u"%00%EF%BF%BD");
+}
+
+TEST_CASE("what is encoded for transport is decoded to what it was") {
+    testing::RandomTexts texts(kUnits);
+    for (int i = 0; i < 5'000; ++i) {
+        const String text = randomWellFormedText(texts);
+        REQUIRE(stringFromQuotedPrintableFormat(stringToQuotedPrintableFormat(text)) == text);
+        REQUIRE(percentDecoded(percentEncodePath(text)) == text);
+        REQUIRE(percentDecoded(percentEncodeQuery(text)) == text);
+    }
+}
+
+}  // namespace QZCore

@@ -1,0 +1,77 @@
+#include "QZCore/codecs/uuid.h"
+
+#include <random>
+
+#include "codecs/hexadecimal.h"
+#include "support/exact_copy.h"
+#include "support/printing.h"
+
+namespace QZCore {
+
+TEST_CASE("UUIDs are told from other texts") {
+    constexpr StringView kUUID = u"6ba7b810-9DAD-11d1-80b4-00c04fd430c8";
+    CHECK(isUUID(testing::ExactCopy(kUUID)));
+    CHECK(isUndashedUUID(u"6ba7b8109DAD11d180b400c04fd430c8"));
+    for (std::size_t i = 0; i < kUUID.size(); ++i) {
+        CAPTURE(i);
+        for (const char16_t other : {u'g', u'-', u'0', u'\uFF10'}) {
+            String changed(kUUID);
+            changed[i] = other;
+            const bool keepsForm = kUUID[i] == u'-' ? other == u'-' : other == u'0';
+            CHECK(isUUID(changed) == keepsForm);
+        }
+        CHECK_FALSE(isUUID(kUUID.substr(i + 1)));
+    }
+    CHECK_FALSE(isUUID(String(kUUID) + u"0"));
+    CHECK_FALSE(isUndashedUUID(u"6ba7b8109dad11d180b400c04fd430c"));
+    CHECK_FALSE(isUndashedUUID(u"6ba7b8109dad11d180b400c04fd430cg"));
+    CHECK_FALSE(isUndashedUUID(u""));
+}
+
+TEST_CASE("a UUID comes back in upper case from its short form") {
+    // RFC 4122, appendix C; the short form by RFC 4648, section 5.
+    CHECK(encodeUUIDAsURLSafeBase64(u"6ba7b810-9dad-11d1-80b4-00c04fd430c8") ==
+          u"a6e4EJ2tEdGAtADAT9QwyA");
+    CHECK(encodeUUIDAsURLSafeBase64(u"FBFFBFFB-FFBF-FBFF-BFFB-FFBFFBFFBFFB") ==
+          u"-_-_-_-_-_-_-_-_-_-_-w");
+    std::mt19937 random(1);
+    for (int i = 0; i < 1'000; ++i) {
+        String uuid;
+        while (uuid.size() < 36) {
+            if (uuid.size() == 8 || uuid.size() == 13 || uuid.size() == 18 || uuid.size() == 23)
+                uuid += u'-';
+            appendHexByte(uuid, static_cast<std::uint8_t>(random()));
+        }
+        const auto shortForm = encodeUUIDAsURLSafeBase64(uuid);
+        REQUIRE(shortForm);
+        REQUIRE(shortForm->size() == 22);
+        REQUIRE(decodeURLSafeBase64UUID(*shortForm) == uuid);
+    }
+}
+
+TEST_CASE("what is no UUID has no other form") {
+    CHECK_FALSE(encodeUUIDAsURLSafeBase64(u""));
+    CHECK_FALSE(encodeUUIDAsURLSafeBase64(u"6ba7b8109dad11d180b400c04fd430c8"));
+    CHECK_FALSE(encodeUUIDAsURLSafeBase64(u"6ba7b810-9dad-11d1-80b4-00c04fd430cX"));
+    struct Row {
+        const char* why;
+        StringView text;
+    };
+    const Row rows[] = {
+        {"too short", u"a6e4EJ2tEdGAtADAT9Qwy"},
+        {"too long", u"a6e4EJ2tEdGAtADAT9QwyAA"},
+        {"a foreign character", u"a6e4EJ2tEdGAtADAT9Qwy!"},
+        {"padding of its own", u"a6e4EJ2tEdGAtADAT9Qw=="},
+        {"a blank", u"a6e4EJ2tEdGAtADAT9Qwy "},
+        {"beyond ASCII", u"a6e4EJ2tEdGAtADAT9Qwy\u0141"},
+        {"an unpaired surrogate", u"a6e4EJ2tEdGAtADAT9Qwy\xD800"},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.why);
+        CHECK_FALSE(decodeURLSafeBase64UUID(row.text));
+    }
+    CHECK(decodeURLSafeBase64UUID(u"+/+/+/+/+/+/+/+/+/+/+w") ==
+          u"FBFFBFFB-FFBF-FBFF-BFFB-FFBFFBFFBFFB");
+}
+
+}  // namespace QZCore
