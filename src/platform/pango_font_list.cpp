@@ -25,6 +25,8 @@ SortKey sortKeyOf(const InstalledFace& face) {
             face.file};
 }
 
+StringView familyOf(const InstalledFace& face) { return face.family; }
+
 /// Whether both are the same face, installed twice.
 bool isSameFace(const InstalledFace& a, const InstalledFace& b) {
     return a.family == b.family && a.member == b.member && a.width == b.width;
@@ -71,8 +73,7 @@ FontList::FontList(FcConfig* config) {
         }
     }
     std::ranges::sort(faces_, {}, sortKeyOf);
-    const auto repeated = std::ranges::unique(faces_, isSameFace);
-    faces_.erase(repeated.begin(), repeated.end());
+    faces_.erase(std::unique(faces_.begin(), faces_.end(), isSameFace), faces_.end());
     makeNamesUnique(faces_);
     for (const InstalledFace& face : faces_) {
         byUniqueName_.emplace(face.member.uniqueName, &face);
@@ -82,8 +83,9 @@ FontList::FontList(FcConfig* config) {
 }
 
 std::span<const InstalledFace> FontList::facesOf(StringView family) const {
-    return std::ranges::equal_range(
-        faces_, family, {}, [](const InstalledFace& face) { return StringView(face.family); });
+    const auto first = std::ranges::lower_bound(faces_, family, {}, familyOf);
+    const auto last = std::ranges::upper_bound(first, faces_.end(), family, {}, familyOf);
+    return {first, last};
 }
 
 const InstalledFace* FontList::withUniqueName(StringView name) const {

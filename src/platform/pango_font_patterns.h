@@ -35,6 +35,7 @@ struct FontFile {
     std::string path;
     int index = 0;
 
+    friend bool operator==(const FontFile&, const FontFile&) = default;
     friend auto operator<=>(const FontFile&, const FontFile&) = default;
 };
 

@@ -14,26 +14,11 @@ bool takesPartInShaping(char32_t character) {
                                UCHAR_DEFAULT_IGNORABLE_CODE_POINT) != 0;
 }
 
-void appendUTF8(std::string& bytes, char32_t character) {
-    char encoded[U8_MAX_LENGTH];
-    int length = 0;
-    U8_APPEND_UNSAFE(encoded, length, character);
-    bytes.append(encoded, static_cast<std::size_t>(length));
-}
-
-void append(FontLine& line, char32_t character, const InstalledFace& face) {
-    if (line.runs.empty() || line.runs.back().face != &face) {
-        line.runs.push_back({&face, line.bytes.size(), line.bytes.size()});
-    }
-    appendUTF8(line.bytes, character);
-    line.runs.back().end = line.bytes.size();
-}
-
 }  // namespace
 
-FontLine fontLineOf(StringView text, const InstalledFace& face,
-                    const FontSubstitutes& substitutes) {
-    FontLine line;
+std::vector<FontRun> fontRunsOf(StringView text, const InstalledFace& face,
+                                const FontSubstitutes& substitutes) {
+    std::vector<FontRun> runs;
     const InstalledFace* current = &face;
     for (std::size_t i = 0; i < text.size();) {
         const CodePoint point = codePointAt(text, i);
@@ -44,9 +29,10 @@ FontLine fontLineOf(StringView text, const InstalledFace& face,
         } else if (!takesPartInShaping(character)) {
             continue;
         }
-        append(line, character, *current);
+        if (runs.empty() || runs.back().face != current) runs.push_back({current, {}});
+        appendCodePoint(runs.back().text, character);
     }
-    return line;
+    return runs;
 }
 
 }  // namespace QZCore
