@@ -305,6 +305,17 @@ String Value::stringValue() const {
 
 bool Value::isIdentical(const Value& other) const { return storage_ == other.storage_; }
 
+bool Value::isShared() const {
+    const auto countOf = [](const auto& held) -> long {
+        if constexpr (requires { held.use_count(); }) {
+            return held.use_count();
+        } else {
+            return 0;
+        }
+    };
+    return std::visit(countOf, storage_) > 1;
+}
+
 std::size_t Value::hash() const {
     switch (kind()) {
         case ValueKind::Absent:

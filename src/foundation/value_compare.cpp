@@ -33,27 +33,20 @@ bool equalNumbers(const Value& a, const Value& b) {
            a.unsignedIntegerValue() == b.unsignedIntegerValue();
 }
 
-/// Remembers the pairs of containers that wait to be compared or were, so that
-/// no pair is compared twice: containers that are shared many times, or that
-/// hold themselves, would never end. Few pairs are not worth remembering.
-class SeenPairs {
+/// Pairs of containers.
+class Pairs {
 public:
-    /// Whether the pair was there before.
-    bool add(const void* a, const void* b) {
-        constexpr std::size_t kFew = 4096;
-        if (++count_ <= kFew) return false;
-        return !pairs_.insert({a, b}).second;
-    }
+    /// Whether the pair was not there before.
+    bool add(const void* a, const void* b) { return pairs_.insert({a, b}).second; }
 
 private:
     struct Hash {
         std::size_t operator()(const std::pair<const void*, const void*>& pair) const {
-            return hashCombine(reinterpret_cast<std::uintptr_t>(pair.first),
-                               reinterpret_cast<std::uintptr_t>(pair.second));
+            const auto number = [](const void* p) { return reinterpret_cast<std::uintptr_t>(p); };
+            return hashCombine(hashCombine(0, number(pair.first)), number(pair.second));
         }
     };
 
-    std::size_t count_ = 0;
     std::unordered_set<std::pair<const void*, const void*>, Hash> pairs_;
 };
 
@@ -110,11 +103,13 @@ private:
             case ValueKind::URL:
                 return *a.url() == *b.url();
             case ValueKind::List:
-                return compareLater(*a.array(), *b.array());
+                return wasCompared(a, b, a.array(), b.array()) ||
+                       compareLater(*a.array(), *b.array());
             case ValueKind::Set:
                 return a.set() == b.set() || *a.set() == *b.set();
             case ValueKind::Dictionary:
-                return compareLater(*a.dictionary(), *b.dictionary());
+                return wasCompared(a, b, a.dictionary(), b.dictionary()) ||
+                       compareLater(*a.dictionary(), *b.dictionary());
             case ValueKind::Object:
                 return a.object() == b.object() || a.object()->isEqualTo(*b.object());
             default:
@@ -122,10 +117,16 @@ private:
         }
     }
 
+    /// Whether the comparison has met this pair of containers before. Containers
+    /// that are shared many times, or hold themselves, would never end; those
+    /// that are not shared are met only once.
+    bool wasCompared(const Value& a, const Value& b, const void* inA, const void* inB) {
+        return (a.isShared() || b.isShared()) && !shared_.add(inA, inB);
+    }
+
     bool compareLater(const Array& a, const Array& b) {
         if (&a == &b) return true;
         if (a.size() != b.size()) return false;
-        if (seen_.add(&a, &b)) return true;
         for (std::size_t i = 0; i < a.size(); ++i) pending_.push_back({&a[i], &b[i]});
         return true;
     }
@@ -133,7 +134,6 @@ private:
     bool compareLater(const Dictionary& a, const Dictionary& b) {
         if (&a == &b) return true;
         if (a.count() != b.count()) return false;
-        if (seen_.add(&a, &b)) return true;
         for (const DictionaryEntry& entry : a) {
             const Value* other = b.find(entry.key);
             if (other == nullptr) return false;
@@ -143,7 +143,7 @@ private:
     }
 
     std::vector<std::pair<const Value*, const Value*>> pending_;
-    SeenPairs seen_;
+    Pairs shared_;
 };
 
 }  // namespace

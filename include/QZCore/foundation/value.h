@@ -180,6 +180,10 @@ public:
     /// reference to the same shared thing.
     [[nodiscard]] bool isIdentical(const Value& other) const;
 
+    /// Whether another value refers to the same shared thing as well. Never for
+    /// scalars.
+    [[nodiscard]] bool isShared() const;
+
     /// A number that is the same for equal values. A container's depends on
     /// its size alone, so that it costs the same at any depth.
     [[nodiscard]] std::size_t hash() const;

@@ -1,0 +1,141 @@
+#include "QZCore/foundation/files.h"
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <fstream>
+
+#include "support/printing.h"
+#include "support/temporary_folder.h"
+
+namespace QZCore {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool write(const std::string& path, std::string_view text) {
+    return writeFileAtomically(path, bytesOf(text));
+}
+
+std::string contentOf(const std::string& path) {
+    const auto bytes = readFile(path);
+    return bytes ? std::string(textOf(*bytes)) : "(unreadable)";
+}
+
+}  // namespace
+
+TEST_CASE("a file reads back as it was written, and nothing else stays behind") {
+    const testing::TemporaryFolder folder;
+    const std::string large(3'000'000, 'x');
+    for (const std::string& text : {std::string("one"), std::string(), large}) {
+        REQUIRE(write(folder / "file", text));
+        CHECK((contentOf(folder / "file") == text));
+        CHECK(folder.count() == 1);
+    }
+    CHECK(readFile(folder / "file", large.size()).has_value());
+    CHECK_FALSE(readFile(folder / "file", large.size() - 1).has_value());
+    CHECK_FALSE(readFile(folder / "missing").has_value());
+    CHECK_FALSE(readFile(folder / "").has_value());
+    const std::string longName(255, 'n');
+    CHECK(write(folder / longName, "long"));
+    CHECK(contentOf(folder / longName) == "long");
+}
+
+TEST_CASE("a replaced file keeps its permissions") {
+    const testing::TemporaryFolder folder;
+    const std::string path = folder / "file";
+    REQUIRE(write(path, "old"));
+    for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
+        ::chmod(path.c_str(), mode);
+        REQUIRE(write(path, "new"));
+        struct ::stat standing = {};
+        REQUIRE(::stat(path.c_str(), &standing) == 0);
+        CHECK((standing.st_mode & 07777) == mode);
+    }
+}
+
+TEST_CASE("a link stays a link to the file that is replaced") {
+    const testing::TemporaryFolder folder;
+    fs::create_directory(folder / "inner");
+    REQUIRE(write(folder / "inner/file", "old"));
+    fs::create_symlink("inner/file", folder / "link");
+    fs::create_symlink("link", folder / "link to the link");
+    fs::create_symlink("inner/later", folder / "dangling");
+    CHECK(write(folder / "link to the link", "new"));
+    CHECK(contentOf(folder / "inner/file") == "new");
+    CHECK(fs::is_symlink(folder / "link"));
+    CHECK(write(folder / "dangling", "made"));
+    CHECK(contentOf(folder / "inner/later") == "made");
+    fs::create_symlink("circle", folder / "circle");
+    CHECK_FALSE(write(folder / "circle", "x"));
+}
+
+TEST_CASE("a save that fails leaves everything as it was") {
+    const testing::TemporaryFolder folder;
+    fs::create_directory(folder / "folder");
+    REQUIRE(::mkfifo((folder / "pipe").c_str(), 0600) == 0);
+    REQUIRE(write(folder / "file", "old"));
+    CHECK_FALSE(write(folder / "folder", "x"));
+    CHECK_FALSE(write(folder / "pipe", "x"));
+    CHECK_FALSE(write(folder / "missing/file", "x"));
+    CHECK_FALSE(write(folder / "file/below", "x"));
+    CHECK(fs::is_fifo(folder / "pipe"));
+
+    // A write beyond the limit for file sizes fails in the middle.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{1000, 1000};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        ::_exit(write(folder / "file", std::string(5000, 'x')) ? 1 : 0);
+    }
+    int status = -1;
+    REQUIRE(::waitpid(child, &status, 0) == child);
+    CHECK(status == 0);
+    CHECK(contentOf(folder / "file") == "old");
+    CHECK(folder.count() == 3);
+}
+
+TEST_CASE("a reader never sees half a file, even if the writer is killed") {
+    const testing::TemporaryFolder folder;
+    const std::string path = folder / "file";
+    const std::string a(200'000, 'a');
+    const std::string b(300'000, 'b');
+    REQUIRE(write(path, a));
+    for (int round = 0; round < 20; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            for (int i = 0;; ++i) (void)write(path, i % 2 == 0 ? b : a);
+        }
+        for (int i = 0; i < 20; ++i) {
+            const std::string seen = contentOf(path);
+            REQUIRE((seen == a || seen == b));
+        }
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const std::string left = contentOf(path);
+        REQUIRE((left == a || left == b));
+    }
+}
+
+TEST_CASE("what a stopped save left behind goes away after an hour") {
+    const testing::TemporaryFolder folder;
+    const auto hoursAgo = [](int hours) {
+        return fs::file_time_type::clock::now() - std::chrono::hours(hours);
+    };
+    for (const char* name : {".file.12-3.saving", ".file.99-0.saving", ".other.1-1.saving",
+                             ".file.mine.saving", "file.12-3.saving"}) {
+        std::ofstream(folder / name) << "x";
+        fs::last_write_time(folder / name, hoursAgo(2));
+    }
+    fs::last_write_time(folder / ".file.99-0.saving", hoursAgo(0));
+    REQUIRE(write(folder / "file", "x"));
+    CHECK_FALSE(fs::exists(folder / ".file.12-3.saving"));
+    CHECK(folder.count() == 5);
+}
+
+}  // namespace QZCore
