@@ -5,14 +5,12 @@
 
 #include "QZCore/color/named_colors.h"
 #include "QZCore/foundation/preferences.h"
+#include "color/stored_forms.h"
 
 namespace QZCore {
 namespace {
 
-// Stored in documents and settings.
-constexpr StringView kClear = u"rgba(00,00,00,0.000000)";
-constexpr StringView kWhite = u"#ffffff";
-constexpr StringView kBlack = u"#000000";
+constexpr StringView kHexPreference = u"Color Hex RGBA";
 
 /// A colour that is printed in one form whatever the preferences say.
 struct FixedForm {
@@ -21,11 +19,11 @@ struct FixedForm {
 };
 
 constexpr std::array kFixedForms{
-    FixedForm{Color::clearColor(), kClear},
-    FixedForm{Color::whiteColor(), kWhite},
-    FixedForm{Color::colorWithCalibratedRed(1, 1, 1, 1), kWhite},
-    FixedForm{Color::blackColor(), kBlack},
-    FixedForm{Color::colorWithCalibratedRed(0, 0, 0, 1), kBlack},
+    FixedForm{Color::clearColor(), kClearString},
+    FixedForm{Color::whiteColor(), kWhiteString},
+    FixedForm{Color::colorWithCalibratedRed(1, 1, 1, 1), kWhiteString},
+    FixedForm{Color::blackColor(), kBlackString},
+    FixedForm{Color::colorWithCalibratedRed(0, 0, 0, 1), kBlackString},
     FixedForm{Color::colorWithCalibratedWhite(0, 0.75), u"rgba(00,00,00,0.750000)"},
     FixedForm{Color::colorWithCalibratedRed(0, 0, 0, 0.75), u"rgba(00,00,00,0.750000)"},
     FixedForm{Color::colorWithCalibratedRed(0, 0, 0, 0.5), u"rgba(00,00,00,0.500000)"},
@@ -49,11 +47,7 @@ std::int32_t steps(double component) {
     return static_cast<std::int32_t>(rounded);
 }
 
-struct Steps {
-    std::int32_t red;
-    std::int32_t green;
-    std::int32_t blue;
-};
+using Steps = std::array<std::int32_t, 3>;
 
 /// Appends two lower-case hex digits, or as many as the bits of `value` need.
 void appendHex(String& text, std::int32_t value) {
@@ -64,27 +58,27 @@ void appendHex(String& text, std::int32_t value) {
     for (; shift >= 0; shift -= 4) text += kDigits[bits >> shift & 0xF];
 }
 
-String opaqueString(const Steps& steps) {
-    String text = u"#";
-    for (const std::int32_t value : {steps.red, steps.green, steps.blue}) appendHex(text, value);
+void appendDecimal(String& text, std::int32_t value) { text += integerString(value); }
+
+String opaqueString(const Steps& rgb) {
+    String text(1, u'#');
+    for (const std::int32_t value : rgb) appendHex(text, value);
     return text;
 }
 
-String translucentHexString(const Steps& steps, double alpha) {
-    String text = u"rgba(";
-    for (const std::int32_t value : {steps.red, steps.green, steps.blue}) {
-        appendHex(text, value);
+String translucentString(StringView start, const Steps& rgb, double alpha,
+                         void (*append)(String& text, std::int32_t value)) {
+    constexpr std::size_t kUsualLength = 26;
+    String text;
+    text.reserve(kUsualLength);
+    text += start;
+    for (const std::int32_t value : rgb) {
+        append(text, value);
         text += u',';
     }
-    return text.append(fixedString(alpha, 6)).append(u")");
-}
-
-String translucentDecimalString(const Steps& steps, double alpha) {
-    String text = u"rgb(";
-    for (const std::int32_t value : {steps.red, steps.green, steps.blue}) {
-        text.append(integerString(value)).append(u",");
-    }
-    return text.append(fixedString(alpha, 6)).append(u")");
+    text += fixedString(alpha, 6);
+    text += u')';
+    return text;
 }
 
 }  // namespace
@@ -95,10 +89,9 @@ String Color::stringForColor() const {
 
     const Steps rgb{steps(components_.red), steps(components_.green), steps(components_.blue)};
     if (components_.alpha == 1.0) return opaqueString(rgb);
-    if (Preferences::shared().boolForKey(u"Color Hex RGBA")) {
-        return translucentHexString(rgb, components_.alpha);
-    }
-    return translucentDecimalString(rgb, components_.alpha);
+    return Preferences::shared().boolForKey(kHexPreference)
+               ? translucentString(kHexStart, rgb, components_.alpha, appendHex)
+               : translucentString(kDecimalStart, rgb, components_.alpha, appendDecimal);
 }
 
 std::optional<String> Color::stringForColor(const std::optional<Color>& color) {
@@ -113,8 +106,8 @@ std::vector<String> Color::convertColorsToColorStrings(const std::vector<Color>&
     return strings;
 }
 
-String Color::clearColorAsString() { return String(kClear); }
-String Color::whiteColorAsString() { return String(kWhite); }
-String Color::blackColorAsString() { return String(kBlack); }
+String Color::clearColorAsString() { return String(kClearString); }
+String Color::whiteColorAsString() { return String(kWhiteString); }
+String Color::blackColorAsString() { return String(kBlackString); }
 
 }  // namespace QZCore

@@ -3,11 +3,12 @@
 #include "QZCore/color/named_colors.h"
 #include "QZCore/foundation/log.h"
 #include "color/lower_case.h"
+#include "color/stored_forms.h"
 
 namespace QZCore {
 namespace {
 
-constexpr StringView kDecimalStart = u"rgb(";
+constexpr StringView kHexPrefix = u"rgba";
 
 bool hasDecimalForm(StringView string) {
     return string.starts_with(kDecimalStart) && string.ends_with(u')');
@@ -19,7 +20,7 @@ std::optional<Color> Color::colorForString(StringView string) {
     if (string.empty()) return std::nullopt;
     String storage;
     const StringView lowered = lowerCased(string, storage);
-    if (lowered.starts_with(u'#') || lowered.starts_with(u"rgba"))
+    if (lowered.starts_with(u'#') || lowered.starts_with(kHexPrefix))
         return colorForHexString(lowered);
     if (hasDecimalForm(lowered)) return colorForRGBString(lowered);
     if (const auto named = sharedNamedColors().find(lowered)) return named;

@@ -2,6 +2,7 @@
 #include <cstdint>
 
 #include "QZCore/color/color.h"
+#include "color/stored_forms.h"
 
 namespace QZCore {
 namespace {
@@ -12,18 +13,26 @@ struct HexDigits {
     std::size_t alphaAt = StringView::npos;  // after the third comma, if there is one
 };
 
-/// The value of a hex digit, the letters o as zeros among them, or -1.
-constexpr int digitValue(char16_t unit) {
-    if (unit >= u'0' && unit <= u'9') return unit - u'0';
-    if (unit >= u'a' && unit <= u'f') return unit - u'a' + 10;
-    if (unit >= u'A' && unit <= u'F') return unit - u'A' + 10;
-    return unit == u'o' || unit == u'O' ? 0 : -1;
-}
+/// The values of the hex digits, the letters o as zeros among them; -1 for all
+/// other units of ASCII.
+constexpr auto kDigitValues = [] {
+    std::array<std::int8_t, 128> values{};
+    values.fill(-1);
+    constexpr StringView kDigits = u"0123456789abcdef";
+    constexpr StringView kCapitals = u"0123456789ABCDEF";
+    for (std::int8_t value = 0; value < 16; ++value) {
+        values[kDigits[static_cast<std::size_t>(value)]] = value;
+        values[kCapitals[static_cast<std::size_t>(value)]] = value;
+    }
+    values[u'o'] = values[u'O'] = 0;
+    return values;
+}();
+
+int digitValue(char16_t unit) { return unit < kDigitValues.size() ? kDigitValues[unit] : -1; }
 
 /// Where the digits start: after "rgba(", white space and "#".
 std::size_t startOfDigits(StringView string) {
-    constexpr StringView kStart = u"rgba(";
-    std::size_t at = string.starts_with(kStart) ? kStart.size() : 0;
+    std::size_t at = string.starts_with(kHexStart) ? kHexStart.size() : 0;
     while (at < string.size() && (string[at] == u'#' || isWhitespaceOrNewline(string[at]))) ++at;
     return at;
 }
@@ -57,9 +66,9 @@ double readAlpha(StringView string, std::size_t at) {
 }  // namespace
 
 Color Color::colorForHexString(StringView string) {
-    if (string == u"#ffffff") return whiteColor();
-    if (string == u"#000000") return blackColor();
-    if (string == u"rgba(00,00,00,0.000000)" || string == u"rgba(0,0,0,0)") return clearColor();
+    if (string == kWhiteString) return whiteColor();
+    if (string == kBlackString) return blackColor();
+    if (string == kClearString || string == kShortClearString) return clearColor();
 
     // Digits are looked for in the first 40 units only; the alpha may go on
     // beyond them.

@@ -10,6 +10,7 @@ namespace {
 
 bool isUpperAscii(char16_t unit) { return unit >= u'A' && unit <= u'Z'; }
 bool isBeyondAscii(char16_t unit) { return unit >= 0x80; }
+bool mayChange(char16_t unit) { return isUpperAscii(unit) || isBeyondAscii(unit); }
 
 char16_t lowerAscii(char16_t unit) {
     return isUpperAscii(unit) ? static_cast<char16_t>(unit + 32) : unit;
@@ -32,13 +33,13 @@ String lowerCasedByUnicode(StringView text) {
 }  // namespace
 
 StringView lowerCased(StringView text, String& storage) {
-    if (std::ranges::any_of(text, isBeyondAscii)) {
+    const auto first = std::ranges::find_if(text, mayChange);
+    if (first == text.end()) return text;
+    if (std::any_of(first, text.end(), isBeyondAscii)) {
         storage = lowerCasedByUnicode(text);
-    } else if (std::ranges::any_of(text, isUpperAscii)) {
-        storage.resize(text.size());
-        std::ranges::transform(text, storage.begin(), lowerAscii);
     } else {
-        return text;
+        storage.assign(text);
+        std::ranges::transform(storage, storage.begin(), lowerAscii);
     }
     return storage;
 }

@@ -13,8 +13,11 @@ namespace {
 
 static_assert(std::is_trivially_copyable_v<Color> && sizeof(Color) == 5 * sizeof(double));
 
-constexpr auto rgba = Color::colorWithCalibratedRed;
-constexpr auto white = Color::colorWithCalibratedWhite;
+Color rgba(double red, double green, double blue, double alpha) {
+    return Color::colorWithCalibratedRed(red, green, blue, alpha);
+}
+
+Color white(double level, double alpha) { return Color::colorWithCalibratedWhite(level, alpha); }
 
 }  // namespace
 

@@ -12,9 +12,15 @@ namespace {
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-constexpr auto rgba = Color::colorWithCalibratedRed;
-constexpr auto white = Color::colorWithCalibratedWhite;
-constexpr auto device = Color::colorWithDeviceRed;
+Color rgba(double red, double green, double blue, double alpha) {
+    return Color::colorWithCalibratedRed(red, green, blue, alpha);
+}
+
+Color white(double level, double alpha) { return Color::colorWithCalibratedWhite(level, alpha); }
+
+Color device(double red, double green, double blue, double alpha) {
+    return Color::colorWithDeviceRed(red, green, blue, alpha);
+}
 
 testing::PreferenceSetting hexAlpha(bool isOn) { return {u"Color Hex RGBA", isOn}; }
 
@@ -110,10 +116,10 @@ TEST_CASE("the general form is what the C library prints") {
 TEST_CASE("what prints reads back, and prints the same again") {
     for (const bool isHexAlpha : {false, true}) {
         const auto setting = hexAlpha(isHexAlpha);
-        for (int i = 0; i < 256 * 256; ++i) {
+        for (int i = 0; i < 0x10000; ++i) {
             const double alpha = i % 3 == 0 ? 1 : (i % 64) * 15625 / 1e6;
             const Color color =
-                Color::colorWithCalibrated255Red(i / 256, i % 256, i * 37 % 256, alpha);
+                Color::colorWithCalibrated255Red(i >> 8, i & 0xFF, i * 37 & 0xFF, alpha);
             const String printed = color.stringForColor();
             const Color read = Color::colorForString(printed).value();
             REQUIRE(read.stringForColor() == printed);
