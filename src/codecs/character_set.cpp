@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/characters.h"
+#include "platform/letters.h"
 
 namespace QZCore {
 namespace {

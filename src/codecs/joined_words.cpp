@@ -1,5 +1,5 @@
 #include "QZCore/codecs/transforming.h"
-#include "platform/characters.h"
+#include "platform/letters.h"
 
 namespace QZCore {
 namespace {

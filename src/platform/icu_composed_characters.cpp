@@ -1,5 +1,7 @@
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 #include "platform/composed_characters.h"
 
 namespace QZCore {
@@ -45,26 +47,37 @@ bool continuesSyllable(char32_t last, char32_t next) {
     }
 }
 
+/// Whether the character that began with `first` and has come to `last` goes on
+/// with `next`.
+bool continuesCharacter(char32_t first, char32_t last, char32_t next) {
+    if (next < kFirstCombiningMark && last != kZeroWidthJoiner) return false;
+    if (isMark(next)) return isBase(first);
+    if (last != kZeroWidthJoiner) return continuesSyllable(last, next);
+    return has(first, UCHAR_EXTENDED_PICTOGRAPHIC) && has(next, UCHAR_EXTENDED_PICTOGRAPHIC);
+}
+
+/// The end of the two regional indicators at `start`; `start` when there are
+/// not two.
+std::size_t flagEnd(StringView text, std::size_t start) {
+    std::size_t end = start;
+    for (int i = 0; i < 2; ++i) {
+        if (end == text.size()) return start;
+        const CodePoint half = codePointAt(text, end);
+        if (!has(half.value, UCHAR_REGIONAL_INDICATOR)) return start;
+        end += half.length;
+    }
+    return end;
+}
+
 }  // namespace
 
 std::size_t composedCharacterEnd(StringView text, std::size_t start) {
     const CodePoint first = codePointAt(text, start);
     char32_t last = first.value;
-    std::size_t end = start + first.length;
-    const auto continues = [&](char32_t next) {
-        if (next < kFirstCombiningMark && last != kZeroWidthJoiner) return false;
-        if (isMark(next)) return isBase(first.value);
-        if (last == kZeroWidthJoiner) {
-            return has(first.value, UCHAR_EXTENDED_PICTOGRAPHIC) &&
-                   has(next, UCHAR_EXTENDED_PICTOGRAPHIC);
-        }
-        const bool isHalfFlag = end == start + first.length && has(last, UCHAR_REGIONAL_INDICATOR);
-        if (isHalfFlag && has(next, UCHAR_REGIONAL_INDICATOR)) return true;
-        return continuesSyllable(last, next);
-    };
+    std::size_t end = std::max(start + first.length, flagEnd(text, start));
     while (end < text.size()) {
         const CodePoint next = codePointAt(text, end);
-        if (!continues(next.value)) break;
+        if (!continuesCharacter(first.value, last, next.value)) break;
         last = next.value;
         end += next.length;
     }

@@ -3,35 +3,16 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "support/exact_copy.h"
 #include "support/printing.h"
+#include "support/temporary_folder.h"
 
 namespace QZCore {
 namespace {
 
 constexpr StringView kHome = u"/home/ann";
-
-/// A folder that exists while this lives.
-class TemporaryFolder {
-public:
-    TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "qzcore-XXXXXX") {
-        std::string name = path_.string();
-        REQUIRE(mkdtemp(name.data()) != nullptr);
-        path_ = name;
-    }
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-    [[nodiscard]] String text() const { return fromUTF8(path_.string()); }
-
-private:
-    std::filesystem::path path_;
-};
 
 }  // namespace
 
@@ -130,12 +111,13 @@ TEST_CASE("paths are shown with names that people know") {
 }
 
 TEST_CASE("a folder of documents that exists stands for all that is in it") {
-    const TemporaryFolder home;
+    const testing::TemporaryFolder home;
+    const String homePath = fromUTF8(home.path().string());
     const auto cloud = std::filesystem::path("Library") / "Mobile Documents" / "x~y";
     std::filesystem::create_directories(home.path() / cloud / "Documents");
-    const String base = home.text() + u"/Library/Mobile Documents/x~y/";
+    const String base = homePath + u"/Library/Mobile Documents/x~y/";
     const auto shown = [&](StringView below) {
-        return friendlyPathWithCloudEmoji(base + String(below), false, home.text() + u"/");
+        return friendlyPathWithCloudEmoji(base + String(below), false, homePath + u"/");
     };
     CHECK(shown(u"Documents/a/b.txt") == u"iCloud Drive/Documents");
     CHECK(shown(u"Documents") == u"iCloud Drive/Documents");
