@@ -17,7 +17,9 @@ namespace QZCore {
 /// The code points from `first` to `last`, both included; none when `last` is
 /// the smaller one.
 struct CharacterRange {
+    /// The smallest code point.
     char32_t first = 0;
+    /// The largest code point.
     char32_t last = 0;
 };
 
