@@ -1,11 +1,11 @@
+#include "platform/http_get.h"
+
 #include <curl/curl.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <memory>
-
-#include "platform/http_get.h"
 
 namespace QZCore {
 namespace {

@@ -1,7 +1,8 @@
+#include "QZCore/platform/url_loading.h"
+
 #include <chrono>
 #include <ctime>
 
-#include "QZCore/platform/url_loading.h"
 #include "platform/answer_keeping.h"
 #include "platform/file_url.h"
 #include "platform/url_cache.h"

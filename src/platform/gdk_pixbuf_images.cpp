@@ -1,10 +1,11 @@
+#include "QZCore/platform/images.h"
+
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
 #include <algorithm>
 #include <memory>
 #include <vector>
 
-#include "QZCore/platform/images.h"
 #include "platform/image_format.h"
 #include "platform/svg_size.h"
 

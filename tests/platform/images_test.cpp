@@ -118,7 +118,7 @@ TEST_CASE("a small file of many pixels is refused before they take memory") {
         CAPTURE(row.why);
         CHECK_FALSE(decoder()->decode(row.file));
     }
-    CHECK(std::chrono::steady_clock::now() - start < std::chrono::seconds(1));
+    CHECK(std::chrono::steady_clock::now() - start < std::chrono::seconds(5));
 }
 
 TEST_CASE("a JPEG of very many scans is refused") {
