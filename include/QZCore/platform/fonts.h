@@ -3,7 +3,7 @@
 // A `Font` is a plain value that names a face at a size. A `FontCatalog` lists
 // the families that are installed, with their faces, measures texts and knows
 // which characters a font shows. The catalogue of the machine is the default;
-// `InMemoryFontCatalog` is a made-up one that is the same everywhere.
+// `makeInMemoryFontCatalog` makes one up that is the same everywhere.
 #pragma once
 
 #include <cstddef>
