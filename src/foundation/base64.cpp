@@ -30,41 +30,46 @@ constexpr std::array<std::uint8_t, 256> kMeanings = [] {
 }  // namespace
 
 void appendBase64(std::string& text, DataView bytes) {
-    text.reserve(text.size() + (bytes.size() + 2) / 3 * 4);
-    for (std::size_t at = 0; at < bytes.size(); at += 3) {
-        const std::size_t count = std::min<std::size_t>(bytes.size() - at, 3);
-        std::uint32_t group = 0;
-        for (std::size_t i = 0; i < 3; ++i) group = group << 8 | (i < count ? bytes[at + i] : 0U);
-        std::array<char, 4> symbols{'=', '=', '=', '='};
-        for (std::size_t i = 0; i <= count; ++i) symbols[i] = kSymbols[group >> (18 - 6 * i) & 63];
-        text.append(symbols.data(), symbols.size());
+    std::size_t at = text.size();
+    text.resize(at + (bytes.size() + 2) / 3 * 4, '=');
+    for (; !bytes.empty(); bytes = bytes.subspan(std::min<std::size_t>(bytes.size(), 3))) {
+        std::uint32_t group = bytes[0] << 16U;
+        if (bytes.size() > 1) group |= bytes[1] << 8U;
+        if (bytes.size() > 2) group |= bytes[2];
+        const std::size_t symbols = std::min<std::size_t>(bytes.size(), 3) + 1;
+        for (std::size_t i = 0; i < symbols; ++i)
+            text[at + i] = kSymbols[group >> (18 - 6 * i) & 63];
+        at += 4;
     }
 }
 
 std::optional<Data> base64Decoded(std::string_view text) {
-    Data bytes;
-    bytes.reserve(text.size() / 4 * 3);
+    Data bytes(text.size() / 4 * 3 + 2);
+    std::uint8_t* out = bytes.data();
+    const auto put = [&out](std::uint32_t byte) { *out++ = static_cast<std::uint8_t>(byte); };
     std::uint32_t group = 0;
     std::size_t symbols = 0;
     std::size_t padding = 0;
     for (const char character : text) {
         const std::uint8_t meaning = kMeanings[static_cast<std::uint8_t>(character)];
-        if (meaning == kBlank) continue;
-        if (meaning == kPadding) {
+        if (meaning < kPadding) {
+            if (padding > 0) return std::nullopt;
+            group = group << 6 | meaning;
+            if (++symbols % 4 != 0) continue;
+            put(group >> 16);
+            put(group >> 8);
+            put(group);
+        } else if (meaning == kPadding) {
             ++padding;
-            continue;
+        } else if (meaning == kForeign) {
+            return std::nullopt;
         }
-        if (meaning == kForeign || padding > 0) return std::nullopt;
-        group = group << 6 | meaning;
-        if (++symbols % 4 != 0) continue;
-        for (const int shift : {16, 8, 0})
-            bytes.push_back(static_cast<std::uint8_t>(group >> shift));
-        group = 0;
     }
     const std::size_t left = symbols % 4;
     if (left == 1 || padding != (left == 0 ? 0 : 4 - left)) return std::nullopt;
-    if (left >= 2) bytes.push_back(static_cast<std::uint8_t>(group >> (left == 2 ? 4 : 10)));
-    if (left == 3) bytes.push_back(static_cast<std::uint8_t>(group >> 2));
+    if (left >= 2) put(group >> (left == 2 ? 4 : 10));
+    if (left == 3) put(group >> 2);
+    bytes.resize(static_cast<std::size_t>(out - bytes.data()));
     return bytes;
 }
 

@@ -21,10 +21,15 @@ std::string_view trimmed(std::string_view text) {
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
+bool beginsLikeNumber(std::string_view text) {
+    if (text.starts_with('-')) text.remove_prefix(1);
+    return !text.empty() && (isDigit(text[0]) || text[0] == '.');
+}
+
 /// `text` without a leading plus sign, which from_chars does not read.
 std::string_view withoutPlus(std::string_view text) {
-    const bool plus = text.size() > 1 && text[0] == '+' && (isDigit(text[1]) || text[1] == '.');
-    return plus ? text.substr(1) : text;
+    const bool plus = text.starts_with('+') && !text.starts_with("+-");
+    return plus && beginsLikeNumber(text.substr(1)) ? text.substr(1) : text;
 }
 
 template <class Integer>
@@ -87,9 +92,7 @@ private:
 
 std::optional<std::int64_t> takeYear(DateScanner& scanner) {
     const bool negative = scanner.take('-');
-    if (!negative && scanner.take('+')) {
-        // A plus sign says what no sign says.
-    }
+    if (!negative) (void)scanner.take('+');  // says what no sign says
     const auto year = scanner.number(4, 9);
     if (!year) return std::nullopt;
     return negative ? -*year : *year;
@@ -130,7 +133,7 @@ std::optional<Value> propertyListInteger(std::string_view text) {
 std::optional<double> propertyListReal(std::string_view text) {
     text = withoutPlus(trimmed(text));
     // from_chars reads words, too, and more of them than are wanted.
-    if (text.find_first_not_of("0123456789+-.eE") != std::string_view::npos) return wordReal(text);
+    if (!beginsLikeNumber(text)) return wordReal(text);
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error == std::errc::invalid_argument || end != text.data() + text.size()) {

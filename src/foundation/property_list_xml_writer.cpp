@@ -20,8 +20,9 @@ constexpr std::size_t kMostBytes = std::size_t{1} << 30;
 /// Deeper lines are not indented further, so that depth costs nothing.
 constexpr std::size_t kMostTabs = 16;
 
-/// What stands for a character that would not be read back as itself.
-std::string_view escapeOf(char16_t unit) {
+/// What stands for a character that would not be read back as itself; empty
+/// for all others.
+constexpr std::string_view escapeOf(char16_t unit) {
     switch (unit) {
         case u'&':
             return "&amp;";
@@ -160,13 +161,13 @@ private:
     }
 
     void appendEscaped(StringView text) {
-        constexpr StringView kEscaped = u"&<>\r";
-        std::size_t at = 0;
-        while (at < text.size()) {
-            const std::size_t end = std::min(text.find_first_of(kEscaped, at), text.size());
-            xml_ += toUTF8(text.substr(at, end - at));
-            if (end < text.size()) xml_ += escapeOf(text[end]);
-            at = end + 1;
+        const auto isEscaped = [](char16_t unit) { return !escapeOf(unit).empty(); };
+        while (true) {
+            const auto* end = std::ranges::find_if(text, isEscaped);
+            xml_ += toUTF8({text.begin(), end});
+            if (end == text.end()) return;
+            xml_ += escapeOf(*end);
+            text = {end + 1, text.end()};
         }
     }
 

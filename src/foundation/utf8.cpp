@@ -44,23 +44,44 @@ char32_t decodeMultibyte(std::string_view bytes, std::size_t& at) {
     return value;
 }
 
-void appendUTF8(std::string& bytes, char32_t value) {
-    const auto add = [&bytes](char32_t byte) { bytes.push_back(static_cast<char>(byte)); };
+constexpr std::size_t unitsFor(char32_t point) { return point < 0x10000 ? 1 : 2; }
+
+constexpr std::size_t bytesFor(char32_t point) {
+    return 1U + (point >= 0x80 ? 1U : 0U) + (point >= 0x800 ? 1U : 0U) +
+           (point >= 0x10000 ? 1U : 0U);
+}
+
+/// Writes a code point as one to four bytes at `out`; returns their end.
+char* putUTF8(char* out, char32_t value) {
+    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
     if (value < 0x80) {
-        add(value);
+        put(value);
     } else if (value < 0x800) {
-        add(0xC0 | (value >> 6));
-        add(0x80 | (value & 0x3F));
+        put(0xC0 | (value >> 6));
+        put(0x80 | (value & 0x3F));
     } else if (value < 0x10000) {
-        add(0xE0 | (value >> 12));
-        add(0x80 | ((value >> 6) & 0x3F));
-        add(0x80 | (value & 0x3F));
+        put(0xE0 | (value >> 12));
+        put(0x80 | ((value >> 6) & 0x3F));
+        put(0x80 | (value & 0x3F));
     } else {
-        add(0xF0 | (value >> 18));
-        add(0x80 | ((value >> 12) & 0x3F));
-        add(0x80 | ((value >> 6) & 0x3F));
-        add(0x80 | (value & 0x3F));
+        put(0xF0 | (value >> 18));
+        put(0x80 | ((value >> 12) & 0x3F));
+        put(0x80 | ((value >> 6) & 0x3F));
+        put(0x80 | (value & 0x3F));
     }
+    return out;
+}
+
+/// Writes a code point as one or two units at `out`; returns their end.
+char16_t* putUTF16(char16_t* out, char32_t value) {
+    if (value < 0x10000) {
+        *out++ = static_cast<char16_t>(value);
+        return out;
+    }
+    const char32_t offset = value - 0x10000;
+    *out++ = static_cast<char16_t>(0xD800 + (offset >> 10));
+    *out++ = static_cast<char16_t>(0xDC00 + (offset & 0x3FF));
+    return out;
 }
 
 /// Whether all of `text` is ASCII. Looks at everything, so that many units can
@@ -72,46 +93,50 @@ bool isAscii(View text) {
     return seen < 0x80;
 }
 
-/// The units of a well-formed text: one for each byte that begins a character,
-/// another for each beyond U+FFFF.
-std::size_t unitCount(std::string_view bytes) {
-    std::size_t count = 0;
-    for (const char byte : bytes) {
-        count += (byte & 0xC0) != 0x80 ? 1U : 0U;
-        count += (byte & 0xF0) == 0xF0 ? 1U : 0U;
+/// Calls `take` with every code point that `bytes` hold.
+template <class Take>
+void forEachIn(std::string_view bytes, Take take) {
+    for (std::size_t at = 0; at < bytes.size();) {
+        const auto byte = static_cast<std::uint8_t>(bytes[at]);
+        if (byte < 0x80) {
+            take(char32_t{byte});
+            ++at;
+        } else {
+            take(decodeMultibyte(bytes, at));
+        }
     }
-    return count;
+}
+
+/// Calls `take` with every code point of `text`.
+template <class Take>
+void forEachIn(StringView text, Take take) {
+    for (std::size_t at = 0; at < text.size();) {
+        const CodePoint point = codePointAt(text, at);
+        const bool unpaired = point.value >= 0xD800 && point.value <= 0xDFFF;
+        take(unpaired ? kReplacement : point.value);
+        at += point.length;
+    }
 }
 
 }  // namespace
 
+// Both conversions count first: a text is kept for long, in a block of its size.
+
 String fromUTF8(std::string_view bytes) {
     if (isAscii(bytes)) return {bytes.begin(), bytes.end()};
-    String text;
-    text.reserve(unitCount(bytes));
-    std::size_t at = 0;
-    while (at < bytes.size()) {
-        const auto byte = static_cast<std::uint8_t>(bytes[at]);
-        if (byte < 0x80) {
-            text.push_back(static_cast<char16_t>(byte));
-            ++at;
-        } else {
-            appendCodePoint(text, decodeMultibyte(bytes, at));
-        }
-    }
+    std::size_t count = 0;
+    forEachIn(bytes, [&count](char32_t point) { count += unitsFor(point); });
+    String text(count, u'\0');
+    forEachIn(bytes, [out = text.data()](char32_t point) mutable { out = putUTF16(out, point); });
     return text;
 }
 
 std::string toUTF8(StringView text) {
     if (isAscii(text)) return {text.begin(), text.end()};
-    std::string bytes;
-    bytes.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();) {
-        const CodePoint point = codePointAt(text, at);
-        const bool unpaired = point.value >= 0xD800 && point.value <= 0xDFFF;
-        appendUTF8(bytes, unpaired ? kReplacement : point.value);
-        at += point.length;
-    }
+    std::size_t count = 0;
+    forEachIn(text, [&count](char32_t point) { count += bytesFor(point); });
+    std::string bytes(count, '\0');
+    forEachIn(text, [out = bytes.data()](char32_t point) mutable { out = putUTF8(out, point); });
     return bytes;
 }
 
@@ -126,14 +151,9 @@ CodePoint codePointAt(StringView text, std::size_t index) {
 }
 
 void appendCodePoint(String& text, char32_t codePoint) {
-    if (codePoint > 0x10FFFF) codePoint = kReplacement;
-    if (codePoint < 0x10000) {
-        text.push_back(static_cast<char16_t>(codePoint));
-        return;
-    }
-    const char32_t offset = codePoint - 0x10000;
-    text.push_back(static_cast<char16_t>(0xD800 + (offset >> 10)));
-    text.push_back(static_cast<char16_t>(0xDC00 + (offset & 0x3FF)));
+    char16_t units[2];
+    const char16_t* end = putUTF16(units, codePoint > 0x10FFFF ? kReplacement : codePoint);
+    text.append(units, static_cast<std::size_t>(end - units));
 }
 
 }  // namespace QZCore

@@ -1,0 +1,34 @@
+// What is read can be written, and what is written reads back as the same.
+
+#include <cstdlib>
+
+#include "QZCore/foundation/property_list.h"
+
+using namespace QZCore;
+
+namespace {
+
+void require(bool holds) {
+    if (!holds) std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const PropertyListResult read = readPropertyList({data, size});
+    require(read.value.isAbsent() == !read.error.empty());
+    if (read.value.isAbsent()) return 0;
+
+    const PropertyListData written = writePropertyList(read.value);
+    require(written.data.has_value());
+
+    // Dates lose their fractions once.
+    const Value again = readPropertyList(*written.data).value;
+    require(!again.isAbsent());
+    require(writePropertyList(again).data == written.data);
+
+    const Value last = readPropertyList(*written.data, PropertyListContainers::Mutable).value;
+    const bool equalsItself = again == Value(again);  // not a number does not
+    require(!equalsItself || last == again);
+    return 0;
+}
