@@ -1,5 +1,6 @@
 #include "codecs/percent.h"
 
+#include <algorithm>
 #include <array>
 
 #include "QZCore/codecs/transforming.h"
