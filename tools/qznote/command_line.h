@@ -1,0 +1,43 @@
+// What the user asks for.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
+
+namespace qznote {
+
+/// The forms that a note is written in.
+enum class OutputFormat { Html, Ansi, Text, Runs };
+
+/// A command with its options.
+struct Command {
+    enum class Action { Render, Detect, ShowHelp, ShowVersion };
+
+    Action action = Action::Render;
+    /// The note; "-" is the standard input.
+    std::string note = "-";
+    /// The style sheet; none when empty.
+    std::string styleSheet{};
+    /// Where the result goes; "-" is the standard output.
+    std::string output = "-";
+    /// What was asked for, if anything.
+    std::optional<OutputFormat> format{};
+    /// Whether images are fetched.
+    bool fetchesImages = false;
+};
+
+/// Why a command line is none, in words for the user.
+struct UsageFault {
+    std::string reason;
+};
+
+/// Reads the arguments behind the name of the program.
+[[nodiscard]] std::variant<Command, UsageFault> readCommandLine(
+    std::span<const char* const> arguments);
+
+/// The text that explains all of it.
+[[nodiscard]] std::string helpText();
+
+}  // namespace qznote

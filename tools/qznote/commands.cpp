@@ -1,0 +1,133 @@
+#include "commands.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "QZCore/foundation/log.h"
+#include "QZCore/platform/url_loading.h"
+#include "ansi_writer.h"
+#include "command_line.h"
+#include "detection_report.h"
+#include "html_writer.h"
+#include "note.h"
+#include "paragraphs.h"
+#include "runs_writer.h"
+#include "stand_ins.h"
+#include "streams.h"
+#include "style_sheet_file.h"
+
+namespace qznote {
+namespace {
+
+using namespace QZCore;
+
+constexpr int kSuccess = 0;
+constexpr int kFailure = 1;
+constexpr int kWrongUsage = 2;
+
+void complain(std::string_view line) {
+    const std::string whole = "qznote: " + std::string(line) + "\n";
+    std::fwrite(whole.data(), 1, whole.size(), stderr);
+}
+
+class StandardErrorLog final : public LogSink {
+public:
+    void write(StringView line) override { complain(toUTF8(line)); }
+};
+
+int failure(std::string_view line) {
+    complain(line);
+    return kFailure;
+}
+
+int output(const std::string& name, std::string_view text) {
+    if (writeAll(name, text)) return kSuccess;
+    return failure(name == kStandardStream ? "cannot write the output" : "cannot write " + name);
+}
+
+std::string nameOf(const std::string& file) {
+    return file == kStandardStream ? "the standard input" : file;
+}
+
+OutputFormat formatOf(const Command& command) {
+    if (command.format) return *command.format;
+    if (command.output.ends_with(".html") || command.output.ends_with(".htm")) {
+        return OutputFormat::Html;
+    }
+    const bool isShown = command.output == kStandardStream && ::isatty(STDOUT_FILENO) == 1;
+    return isShown ? OutputFormat::Ansi : OutputFormat::Text;
+}
+
+/// The name of the note's file without its folder and extension.
+String titleOf(const Command& command) {
+    if (command.note == kStandardStream) return u"Note";
+    std::string_view name = command.note;
+    name.remove_prefix(name.rfind('/') + 1);
+    const std::size_t dot = name.rfind('.');
+    return fromUTF8(dot == 0 ? name : name.substr(0, dot));
+}
+
+std::string plainText(const RichText& text) {
+    String plain;
+    for (const TextRunView run : text.runs()) {
+        plain += withImagesNamed(text.string(run.range), run.attributes);
+    }
+    return toUTF8(plain);
+}
+
+std::string written(const RichText& text, const StyleSheet& styles, const Command& command) {
+    switch (formatOf(command)) {
+        case OutputFormat::Html:
+            return htmlPage(text, {.title = titleOf(command), .base = baseAttributes(styles)});
+        case OutputFormat::Ansi:
+            return ansiText(text);
+        case OutputFormat::Runs:
+            return runLines(text);
+        case OutputFormat::Text:
+            break;
+    }
+    return plainText(text);
+}
+
+int render(const Command& command, const Data& note) {
+    StyleSheet styles;
+    if (!command.styleSheet.empty()) {
+        const auto bytes = readAll(command.styleSheet);
+        if (!bytes) return failure("cannot read " + nameOf(command.styleSheet));
+        const auto sheet = readStyleSheet(*bytes);
+        if (!sheet) return failure(nameOf(command.styleSheet) + " is no style sheet");
+        styles = *sheet;
+    }
+    if (!command.fetchesImages) setSharedUrlLoader(makeRefusingUrlLoader());
+    const RichText text = renderedNote(noteText(note), styles);
+    return output(command.output, written(text, styles, command));
+}
+
+int carryOut(const Command& command) {
+    if (command.action == Command::Action::ShowHelp) return output("-", helpText());
+    if (command.action == Command::Action::ShowVersion) {
+        return output("-", "qznote " QZNOTE_VERSION "\n");
+    }
+    const auto note = readAll(command.note);
+    if (!note) return failure("cannot read " + nameOf(command.note));
+    if (command.action == Command::Action::Detect) {
+        return output("-", detectionReport(noteText(*note)));
+    }
+    return render(command, *note);
+}
+
+}  // namespace
+
+int run(std::span<const char* const> arguments) {
+    setLogSink(std::make_shared<StandardErrorLog>());
+    const auto read = readCommandLine(arguments);
+    if (const auto* fault = std::get_if<UsageFault>(&read)) {
+        complain(fault->reason + "; see qznote --help");
+        return kWrongUsage;
+    }
+    return carryOut(std::get<Command>(read));
+}
+
+}  // namespace qznote
