@@ -1,0 +1,57 @@
+#include "tools/qznote/ansi_writer.h"
+
+#include <doctest/doctest.h>
+
+#include "support/font_scope.h"
+#include "support/printing.h"
+#include "support/random_texts.h"
+#include "tools/qznote/note.h"
+
+namespace QZCore {
+
+TEST_CASE("constructs become terminal codes that end with their line") {
+    const testing::MadeUpFonts fonts;
+    struct Row {
+        const char* why;
+        StringView note;
+        std::string ansi;
+    };
+    const Row rows[] = {
+        {"emphasis", u"a **b** *c*\n", "a \x1b[1mb\x1b[0m \x1b[3mc\x1b[0m\n"},
+        {"code over two lines", u"```\na\nb\n```\n",
+         "\x1b[38;2;0;0;0;48;2;241;241;241ma\x1b[0m\n\x1b[38;2;0;0;0;48;2;241;241;241mb\x1b[0m\n"},
+        {"a translucent colour is mixed with paper", u"==a==",
+         "\x1b[38;2;0;0;0;48;2;255;255;153ma\x1b[0m\n"},
+        {"a link", u"[a](http://a.example)",
+         "\x1b[4;38;2;26;115;232m\x1b]8;;http://a.example\x1b\\a\x1b[0m\x1b]8;;\x1b\\\n"},
+        {"an image", u"![a b|64x48](x:y)", "[a b 64x48]\n"},
+        {"a quotation is set in", u"> a\n", "   a\n"},
+        {"control characters", u"a\x1b[31m\x7F\u009B\u2029\x07",
+         "a\u241B[31m\u2421\uFFFD\n\u2407\n"},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.why);
+        CHECK(qznote::ansiText(qznote::renderedNote(row.note, {})) == row.ansi);
+    }
+}
+
+TEST_CASE("no note switches anything on beyond its line") {
+    const testing::MadeUpFonts fonts;
+    testing::RandomTexts texts(u"a*_`=~[](:/)\n\r\x1b ");
+    for (int i = 0; i < 2000; ++i) {
+        const std::string ansi = qznote::ansiText(qznote::renderedNote(texts.next(40), {}));
+        std::size_t start = 0;
+        while (start < ansi.size()) {
+            const std::size_t end = ansi.find('\n', start);
+            REQUIRE(end != std::string::npos);
+            const std::string line = ansi.substr(start, end - start);
+            const std::size_t last = line.rfind("\x1b[");
+            if (last != std::string::npos) REQUIRE(line.substr(last, 4) == "\x1b[0m");
+            const std::size_t link = line.rfind("\x1b]8;;");
+            if (link != std::string::npos) REQUIRE(line.substr(link, 7) == "\x1b]8;;\x1b\\");
+            start = end + 1;
+        }
+    }
+}
+
+}  // namespace QZCore

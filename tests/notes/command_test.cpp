@@ -1,0 +1,111 @@
+// Runs the command itself, as a shell does.
+#include <doctest/doctest.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+
+#include "QZCore/foundation/files.h"
+#include "support/temporary_folder.h"
+
+namespace QZCore {
+namespace {
+
+struct Outcome {
+    int code;
+    std::string output;  // both streams
+};
+
+/// The outcome of a shell line in which "qznote" stands for the command.
+Outcome shell(const std::string& line) {
+    const std::string whole = "exec 2>&1; qznote() { '" QZNOTE_COMMAND "' \"$@\"; }; " + line;
+    std::FILE* pipe = ::popen(whole.c_str(), "r");
+    REQUIRE(pipe != nullptr);
+    std::string output;
+    char block[4096];
+    while (const std::size_t count = std::fread(block, 1, sizeof block, pipe)) {
+        output.append(block, count);
+    }
+    const int status = ::pclose(pipe);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+}
+
+std::string fileText(const std::string& path) {
+    const auto bytes = readFile(path);
+    return bytes ? std::string(textOf(*bytes)) : "(no file)";
+}
+
+}  // namespace
+
+TEST_CASE("the command reports what fails in one line and an exit code") {
+    const testing::TemporaryFolder folder;
+    REQUIRE(writeFileAtomically(folder / "bad.json", bytesOf("[1]")));
+    struct Row {
+        const char* line;
+        int code;
+        std::string output;
+    };
+    const std::string seeHelp = "; see qznote --help\n";
+    const Row rows[] = {
+        {"printf '**a** b' | qznote render", 0, "a b"},
+        {"printf '\\357\\273\\277a\\r\\n**b**' | qznote render - --to=text", 0, "a\nb"},
+        {"printf '**a**' | qznote render --to ansi", 0, "\x1b[1ma\x1b[0m\n"},
+        {"printf '![a](http://a.example/b.png)' | qznote render", 0, "[a 32x32]"},
+        {"qznote render no-such-note.md", 1, "qznote: cannot read no-such-note.md\n"},
+        {"qznote render .", 1, "qznote: cannot read .\n"},
+        {"echo a | qznote render --style no-such-sheet", 1, "qznote: cannot read no-such-sheet\n"},
+        {"echo a | qznote render --style bad.json", 1, "qznote: bad.json is no style sheet\n"},
+        {"echo a | qznote render -o no-such-folder/a", 1,
+         "qznote: cannot write no-such-folder/a\n"},
+        {"echo a | qznote render > /dev/full", 1, "qznote: cannot write the output\n"},
+        {"qznote", 2, "qznote: no command given" + seeHelp},
+        {"qznote draw", 2, "qznote: unknown command draw" + seeHelp},
+        {"qznote render --fast", 2, "qznote: unknown option --fast" + seeHelp},
+        {"qznote detect --images", 2, "qznote: unknown option --images" + seeHelp},
+        {"qznote render --images=yes", 2, "qznote: --images takes no value" + seeHelp},
+        {"qznote render --to pdf", 2, "qznote: unknown format pdf" + seeHelp},
+        {"qznote render -o", 2, "qznote: -o needs a value" + seeHelp},
+        {"qznote render a b", 2, "qznote: more than one note given" + seeHelp},
+        {"qznote --version", 0, "qznote " QZNOTE_VERSION "\n"},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.line);
+        const Outcome outcome = shell("cd '" + folder.path().string() + "'; " + row.line);
+        CHECK(outcome.code == row.code);
+        CHECK(outcome.output == row.output);
+    }
+    CHECK(shell("qznote --help").output.starts_with("qznote shows notes"));
+    CHECK(shell("qznote --help").code == 0);
+}
+
+TEST_CASE("style sheets are property lists or JSON") {
+    const testing::TemporaryFolder folder;
+    REQUIRE(writeFileAtomically(folder / "s.json", bytesOf(R"({"*": {"font-color": "#ff0000"}})")));
+    REQUIRE(writeFileAtomically(
+        folder / "s.plist",
+        bytesOf("<plist version=\"1.0\"><dict><key>*</key><dict><key>font-color</key>"
+                "<string>#ff0000</string></dict></dict></plist>")));
+    for (const char* sheet : {"s.json", "s.plist"}) {
+        CAPTURE(sheet);
+        const Outcome outcome =
+            shell("printf '*a*' | qznote render --to ansi --style '" + (folder / sheet) + "'");
+        CHECK(outcome.output == "\x1b[3;38;2;255;0;0ma\x1b[0m\n");
+    }
+}
+
+TEST_CASE("a file that is named as a page becomes one") {
+    const testing::TemporaryFolder folder;
+    REQUIRE(writeFileAtomically(folder / "my note.md", bytesOf("*a*")));
+    const std::string go = "cd '" + folder.path().string() + "'; ";
+    CHECK(shell(go + "qznote render 'my note.md' -o a.html").code == 0);
+    CHECK(shell(go + "qznote render 'my note.md' -o a.txt").code == 0);
+    CHECK(fileText(folder / "a.html").find("<title>my note</title>") != std::string::npos);
+    CHECK(fileText(folder / "a.txt") == "a");
+}
+
+TEST_CASE("detect counts constructs and answers for the whole note") {
+    CHECK(shell("printf '# a\\n**b** **c** \\\\*d*\\n' | qznote detect").output ==
+          "escapes: 1\nheaders: 1\nbold: 2\ncontains rich text: yes\nis a list: no\n"
+          "is a table: no\nis a task outline: no\n");
+}
+
+}  // namespace QZCore

@@ -1,0 +1,159 @@
+#include "tools/qznote/html_writer.h"
+
+#include <doctest/doctest.h>
+
+#include <random>
+
+#include "support/font_scope.h"
+#include "support/printing.h"
+#include "support/random_texts.h"
+#include "support/tag_balance.h"
+#include "tools/qznote/note.h"
+#include "tools/qznote/paragraphs.h"
+#include "tools/qznote/safe_link.h"
+
+namespace QZCore {
+namespace {
+
+/// What stands between <main> and </main>.
+std::string bodyOf(const RichText& text, const TextAttributes& base) {
+    const std::string page = qznote::htmlPage(text, {.title = u"Note", .base = base});
+    const std::size_t start = page.find("<main>\n") + 7;
+    return page.substr(start, page.find("</main>") - start);
+}
+
+std::string rendered(StringView note, const StyleSheet& styles = {}) {
+    return bodyOf(qznote::renderedNote(note, styles), qznote::baseAttributes(styles));
+}
+
+/// Gives random stretches of `text` random attributes of all kinds.
+void scatterAttributes(RichText& text, std::mt19937& random) {
+    const FontManager fonts = FontManager::shared();
+    const Font plain = fonts.userFont(12);
+    const TextAttribute pool[] = {
+        {NSFontAttributeName, Value::boxed(fonts.convertFontToHaveTrait(plain, kFontBold))},
+        {NSFontAttributeName, Value::boxed(fonts.convertFontToFamily(plain, u"Mono"))},
+        {NSFontAttributeName, Value::boxed(fonts.convertFontToSize(plain, 24))},
+        {NSFontAttributeName, Value::boxed(Font{.familyName = u"</style>'\"\\&"})},
+        {NSBackgroundColorAttributeName, Value::boxed(Color::colorWithDeviceRed(1, 1, 0, 0.9))},
+        {NSForegroundColorAttributeName, Value::boxed(Color::whiteColor())},
+        {NSUnderlineStyleAttributeName, 1},
+        {NSStrikethroughStyleAttributeName, 1},
+        {NSLinkAttributeName, u"http://a.example/\"<&>"},
+        {NSLinkAttributeName, u"javascript:x"},
+        {NSParagraphStyleAttributeName, Value::boxed(ParagraphStyle{.headIndent = 7})},
+    };
+    for (std::size_t i = 0; i < 6; ++i) {
+        const TextAttribute& attribute = pool[random() % std::size(pool)];
+        const Range range{random() % (text.length() + 1), random() % 6};
+        text.addAttribute(attribute.name.text(), attribute.value, range);
+    }
+}
+
+}  // namespace
+
+TEST_CASE("any rich text becomes a well-formed page that holds the same text") {
+    const testing::MadeUpFonts fonts;
+    testing::RandomTexts texts(u"ab <>&\"'\t\n");
+    std::mt19937 random(7);
+    const TextAttributes base = qznote::baseAttributes({});
+    for (int i = 0; i < 1000; ++i) {
+        RichText text(texts.next(20), base);
+        scatterAttributes(text, random);
+        std::string expected;
+        for (const Range paragraph : qznote::paragraphsOf(text.string())) {
+            expected += toUTF8(text.string(paragraph)) + "\n";
+        }
+        const auto reading = testing::PageReader::read(bodyOf(text, base));
+        REQUIRE(reading.fault == "");
+        REQUIRE(reading.text == expected);
+        const std::string page = qznote::htmlPage(text, {.title = u"</title>&", .base = base});
+        REQUIRE(testing::PageReader::read(page).fault == "");
+    }
+}
+
+TEST_CASE("constructs become the elements that mean them") {
+    const testing::MadeUpFonts fonts;
+    struct Row {
+        const char* why;
+        StringView note;
+        std::string html;
+    };
+    const Row rows[] = {
+        {"emphasis", u"a **b** *c* __d__ ~~e~~",
+         "<p>a <strong>b</strong> <em>c</em> <u>d</u> <s>e</s></p>\n"},
+        {"what neighbours share stays open", u"*a **b***",
+         "<p><em>a </em><strong><em>b</em></strong></p>\n"},
+        {"an empty line", u"a\n\nb", "<p>a</p>\n<p></p>\n<p>b</p>\n"},
+        {"translucent backgrounds take the reader's text colour", u"==a==",
+         "<p><mark style=\"background-color:rgba(255,255,0,0.4);\">a</mark></p>\n"},
+        {"code on an opaque background", u"a `b`",
+         "<p>a <code style=\"font-family:'Mono',monospace;color:#000000;"
+         "background-color:#f1f1f1;\">b</code></p>\n"},
+        {"lines of code are one block", u"```\na\n\nb\n```\n",
+         "<pre style=\"font-family:'Mono',monospace;color:#000000;background-color:#f1f1f1;\">"
+         "<code>a\n\nb</code></pre>\n"},
+        {"headings take their look from their first run", u"### a *b*",
+         "<h3 style=\"font-size:18pt;margin-top:5pt;margin-bottom:2pt;\">a <em>b</em></h3>\n"},
+        {"control characters and unpaired surrogates", u"a\x1b\xD800z", "<p>a\uFFFD\uFFFDz</p>\n"},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.why);
+        CHECK(rendered(row.note) == row.html);
+    }
+}
+
+TEST_CASE("a page names what its style sheet says of all text once") {
+    const testing::MadeUpFonts fonts;
+    const StyleSheet styles{
+        {u"body", Dictionary{{kStyleFontColor, u"#112233"}, {kStyleFontFamily, u"Serif"}}}};
+    const RichText text = qznote::renderedNote(u"a *b*", styles);
+    const TextAttributes base = qznote::baseAttributes(styles);
+    CHECK(bodyOf(text, base) == "<p>a <em>b</em></p>\n");
+    CHECK(qznote::htmlPage(text, {.title = u"n", .base = base})
+              .find("<body style=\"font-family:'Serif',sans-serif;font-size:12pt;color:#112233;"
+                    "color-scheme:light;\">") != std::string::npos);
+}
+
+TEST_CASE("only links that run nothing are followed") {
+    struct Row {
+        StringView target;
+        bool isSafe;
+    };
+    const Row rows[] = {
+        {u"http://a.example", true},
+        {u"HTTPS://a.example", true},
+        {u"mailto:a@b.example", true},
+        {u"file:///a", true},
+        {u"a/b.html", true},
+        {u"#part", true},
+        {u"./a:b", true},
+        {u"//a.example", true},
+        {u"?a:b", true},
+        {u"javascript:x", false},
+        {u"JavaScript:x", false},
+        {u" javascript:x", false},
+        {u"java\nscript:x", false},
+        {u"data:text/html,x", false},
+        {u"vbscript:x", false},
+        {u"\x01:javascript:x", false},
+        {u":x", false},
+        {u"blob:http://a", false},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.target);
+        CHECK(qznote::safeLink({{NSLinkAttributeName, row.target}}).has_value() == row.isSafe);
+    }
+}
+
+TEST_CASE("images stand in the page with their size and description") {
+    const testing::MadeUpFonts fonts;
+    const auto image = std::make_shared<const Image>(Image{{'a', 'b', 'c', 'd'}, u"image/png"});
+    const RichText text(u"\uFFFC", {{NSAttachmentAttributeName,
+                                     Value::boxed(TextAttachment{image, 64, 48, u"\"a\"", u""})}});
+    CHECK(bodyOf(text, {}) ==
+          "<p><img src=\"data:image/png;base64,YWJjZA==\" alt=\"&quot;a&quot;\" "
+          "style=\"width:64pt;height:48pt;\"></p>\n");
+}
+
+}  // namespace QZCore

@@ -1,0 +1,105 @@
+// Reads pages as strictly as no browser does.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace QZCore::testing {
+
+/// What a page holds, as far as it is well-formed.
+struct PageReading {
+    /// The first fault, with what stands there; empty when there is none.
+    std::string fault;
+    /// The text between the tags, with character references resolved.
+    std::string text;
+};
+
+/// Reads `page`: every tag must be closed in order, every attribute quoted, and
+/// every special character written as one of four references.
+class PageReader {
+public:
+    [[nodiscard]] static PageReading read(std::string_view page) {
+        PageReader reader(page);
+        while (reader.reading_.fault.empty() && !reader.rest_.empty()) reader.readNext();
+        if (!reader.open_.empty()) reader.fail("not closed: " + reader.open_.back());
+        return reader.reading_;
+    }
+
+private:
+    explicit PageReader(std::string_view page) : rest_(page) {}
+
+    void fail(const std::string& what) {
+        if (reading_.fault.empty()) {
+            reading_.fault = what + " at " + std::string(rest_.substr(0, 40));
+        }
+    }
+
+    [[nodiscard]] bool skip(std::string_view expected) {
+        if (!rest_.starts_with(expected)) return false;
+        rest_.remove_prefix(expected.size());
+        return true;
+    }
+
+    std::string takeName() {
+        std::size_t length = 0;
+        while (length < rest_.size() && isNamePart(rest_[length])) ++length;
+        const std::string name(rest_.substr(0, length));
+        rest_.remove_prefix(length);
+        if (name.empty()) fail("no name");
+        return name;
+    }
+
+    static bool isNamePart(char byte) {
+        return (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') || byte == '-';
+    }
+
+    void readNext() {
+        if (skip("</")) {
+            const std::string name = takeName();
+            if (open_.empty() || open_.back() != name) return fail("closed out of order: " + name);
+            open_.pop_back();
+            if (!skip(">")) fail("tag without an end");
+        } else if (skip("<!doctype html>")) {
+        } else if (skip("<")) {
+            readOpeningTag();
+        } else {
+            readCharacter("<>\"");
+        }
+    }
+
+    void readOpeningTag() {
+        const std::string name = takeName();
+        while (skip(" ")) {
+            const std::string attribute = takeName();
+            if (!skip("=\"")) return fail("no value: " + attribute);
+            const std::size_t kept = reading_.text.size();
+            while (!skip("\"") && !rest_.empty() && reading_.fault.empty()) readCharacter("<>\"");
+            reading_.text.resize(kept);
+        }
+        if (!skip(">")) return fail("tag without an end");
+        if (name != "img" && name != "meta") open_.push_back(name);
+    }
+
+    void readCharacter(std::string_view forbidden) {
+        static constexpr struct {
+            std::string_view reference;
+            char character;
+        } kReferences[] = {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}};
+        for (const auto& [reference, character] : kReferences) {
+            if (!skip(reference)) continue;
+            reading_.text += character;
+            return;
+        }
+        const char byte = rest_.front();
+        if (byte == '&' || forbidden.find(byte) != forbidden.npos) return fail("not escaped");
+        reading_.text += byte;
+        rest_.remove_prefix(1);
+    }
+
+    std::string_view rest_;
+    std::vector<std::string> open_;
+    PageReading reading_;
+};
+
+}  // namespace QZCore::testing
