@@ -30,18 +30,20 @@ std::string rendered(StringView note, const StyleSheet& styles = {}) {
 void scatterAttributes(RichText& text, std::mt19937& random) {
     const FontManager fonts = FontManager::shared();
     const Font plain = fonts.userFont(12);
+    ParagraphStyle indented;
+    indented.headIndent = 7;
     const TextAttribute pool[] = {
         {NSFontAttributeName, Value::boxed(fonts.convertFontToHaveTrait(plain, kFontBold))},
         {NSFontAttributeName, Value::boxed(fonts.convertFontToFamily(plain, u"Mono"))},
         {NSFontAttributeName, Value::boxed(fonts.convertFontToSize(plain, 24))},
-        {NSFontAttributeName, Value::boxed(Font{.familyName = u"</style>'\"\\&"})},
+        {NSFontAttributeName, Value::boxed(Font{u"</style>'\"\\&", u"Odd"})},
         {NSBackgroundColorAttributeName, Value::boxed(Color::colorWithDeviceRed(1, 1, 0, 0.9))},
         {NSForegroundColorAttributeName, Value::boxed(Color::whiteColor())},
         {NSUnderlineStyleAttributeName, 1},
         {NSStrikethroughStyleAttributeName, 1},
         {NSLinkAttributeName, u"http://a.example/\"<&>"},
         {NSLinkAttributeName, u"javascript:x"},
-        {NSParagraphStyleAttributeName, Value::boxed(ParagraphStyle{.headIndent = 7})},
+        {NSParagraphStyleAttributeName, Value::boxed(indented)},
     };
     for (std::size_t i = 0; i < 6; ++i) {
         const TextAttribute& attribute = pool[random() % std::size(pool)];

@@ -20,13 +20,15 @@ struct PageReading {
 class PageReader {
 public:
     [[nodiscard]] static PageReading read(std::string_view page) {
-        PageReader reader(page);
+        PageReader reader(page.substr(page.starts_with(kDoctype) ? kDoctype.size() : 0));
         while (reader.reading_.fault.empty() && !reader.rest_.empty()) reader.readNext();
         if (!reader.open_.empty()) reader.fail("not closed: " + reader.open_.back());
         return reader.reading_;
     }
 
 private:
+    static constexpr std::string_view kDoctype = "<!doctype html>";
+
     explicit PageReader(std::string_view page) : rest_(page) {}
 
     void fail(const std::string& what) {
@@ -60,7 +62,6 @@ private:
             if (open_.empty() || open_.back() != name) return fail("closed out of order: " + name);
             open_.pop_back();
             if (!skip(">")) fail("tag without an end");
-        } else if (skip("<!doctype html>")) {
         } else if (skip("<")) {
             readOpeningTag();
         } else {
