@@ -38,10 +38,10 @@ inline constexpr double kFontDefaultSize = 12;
 /// A face at a size.
 struct Font {
     /// The family, as "DejaVu Sans".
-    String familyName;
+    String familyName = {};
     /// The unique name of the face, as "DejaVuSans-Bold", by which it can be
     /// looked up again.
-    String faceName;
+    String faceName = {};
     /// The size in points.
     double pointSize = kFontDefaultSize;
     /// The sum of `kFontItalic` and `kFontBold` as far as they apply.

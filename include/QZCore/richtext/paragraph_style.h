@@ -91,11 +91,11 @@ struct ParagraphStyle {
     /// Natural follows the first letter.
     WritingDirection baseWritingDirection = WritingDirection::Natural;
     /// Tab stops in order of location.
-    std::vector<TextTab> tabStops;
+    std::vector<TextTab> tabStops = {};
     /// The lists around the paragraph, outermost first.
-    std::vector<TextList> textLists;
+    std::vector<TextList> textLists = {};
     /// The boxes around the paragraph, outermost first.
-    std::vector<TextBlock> textBlocks;
+    std::vector<TextBlock> textBlocks = {};
 
     /// Exact comparison of all fields.
     friend bool operator==(const ParagraphStyle&, const ParagraphStyle&) = default;
