@@ -84,8 +84,9 @@ TEST_CASE("constructs become the elements that mean them") {
     const Row rows[] = {
         {"emphasis", u"a **b** *c* __d__ ~~e~~",
          "<p>a <strong>b</strong> <em>c</em> <u>d</u> <s>e</s></p>\n"},
-        {"what neighbours share stays open", u"*a **b***",
-         "<p><em>a </em><strong><em>b</em></strong></p>\n"},
+        {"what neighbours share stays open", u"==a **b** c==",
+         "<p><mark style=\"background-color:rgba(255,255,0,0.4);\">a <strong>b</strong> "
+         "c</mark></p>\n"},
         {"an empty line", u"a\n\nb", "<p>a</p>\n<p></p>\n<p>b</p>\n"},
         {"translucent backgrounds take the reader's text colour", u"==a==",
          "<p><mark style=\"background-color:rgba(255,255,0,0.4);\">a</mark></p>\n"},
@@ -95,8 +96,8 @@ TEST_CASE("constructs become the elements that mean them") {
         {"lines of code are one block", u"```\na\n\nb\n```\n",
          "<pre style=\"font-family:'Mono',monospace;color:#000000;background-color:#f1f1f1;\">"
          "<code>a\n\nb</code></pre>\n"},
-        {"headings take their look from their first run", u"### a *b*",
-         "<h3 style=\"font-size:18pt;margin-top:5pt;margin-bottom:2pt;\">a <em>b</em></h3>\n"},
+        {"headings take their look from their first run", u"### a __b__",
+         "<h3 style=\"font-size:18pt;margin-top:5pt;margin-bottom:2pt;\">a <u>b</u></h3>\n"},
         {"control characters and unpaired surrogates", u"a\x1b\xD800z", "<p>a\uFFFD\uFFFDz</p>\n"},
     };
     for (const Row& row : rows) {
@@ -108,13 +109,15 @@ TEST_CASE("constructs become the elements that mean them") {
 TEST_CASE("a page names what its style sheet says of all text once") {
     const testing::MadeUpFonts fonts;
     const StyleSheet styles{
-        {u"body", Dictionary{{kStyleFontColor, u"#112233"}, {kStyleFontFamily, u"Serif"}}}};
-    const RichText text = qznote::renderedNote(u"a *b*", styles);
+        {u"body", Dictionary{{kStyleFontColor, u"#112233"}, {kStyleBackgroundColor, u"#fff8e0"}}}};
+    const RichText text = qznote::renderedNote(u"a *b*\n# c", styles);
     const TextAttributes base = qznote::baseAttributes(styles);
-    CHECK(bodyOf(text, base) == "<p>a <em>b</em></p>\n");
-    CHECK(qznote::htmlPage(text, {.title = u"n", .base = base})
-              .find("<body style=\"font-family:'Serif',sans-serif;font-size:12pt;color:#112233;"
-                    "color-scheme:light;\">") != std::string::npos);
+    const std::string page = qznote::htmlPage(text, {.title = u"n", .base = base});
+    CHECK(page.find("color:#112233;background-color:#fff8e0;color-scheme:light;\">\n<main>") !=
+          std::string::npos);
+    CHECK(bodyOf(text, base) ==
+          "<p>a <em>b</em></p>\n"
+          "<h1 style=\"font-size:32pt;color:#000000;margin-top:5pt;margin-bottom:2pt;\">c</h1>\n");
 }
 
 TEST_CASE("only links that run nothing are followed") {

@@ -75,7 +75,8 @@ private:
             case BlockKind::Code:
                 return first;
             case BlockKind::Heading:
-                return first.withoutAttribute(NSBackgroundColorAttributeName);
+                return first.withAttribute(NSBackgroundColorAttributeName,
+                                           page_.base.objectForKey(NSBackgroundColorAttributeName));
             case BlockKind::Paragraph:
                 break;
         }
