@@ -205,7 +205,8 @@ void run(benchmark::State& state, const std::string& utf8) {
     const typename Contestant::Text text = Contestant::prepared(utf8);
     for (auto _ : state) benchmark::DoNotOptimize(Contestant::work(text));
     const auto use = bench::heapUseOf([&] { return Contestant::work(text); });
-    state.counters["peak bytes"] = static_cast<double>(use.peak);
+    state.counters["bytes_per_unit"] =
+        static_cast<double>(use.peak) / static_cast<double>(text.size());
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(utf8.size()));
 }
 

@@ -285,7 +285,8 @@ void formatWords(benchmark::State& state) {
             text.makeBold({i * kSpan + kWordStart, kWordLength});
         });
     const auto use = bench::heapUseOf([&] { return withBoldWords<Contestant>(sizeOf(state)); });
-    state.counters["bytes"] = static_cast<double>(use.kept);
+    state.counters["bytes_per_unit"] =
+        static_cast<double>(use.kept) / static_cast<double>(sizeOf(state));
 }
 
 // ---- Cases ------------------------------------------------------------------
