@@ -21,7 +21,9 @@ inline constexpr int kPropertyListDepthLimit = 512;
 /// What reading gave: the value, or an absent value and the reason in words,
 /// in the XML form with the number of the line.
 struct PropertyListResult {
+    /// What was read; absent when nothing was.
     Value value;
+    /// The reason; empty when something was read.
     String error;
 };
 
@@ -48,7 +50,9 @@ enum class PropertyListContainers { Immutable, Mutable };
 
 /// What writing gave: the bytes, or nothing and the reason in words.
 struct PropertyListData {
+    /// The bytes; nothing when the value cannot be written.
     std::optional<Data> data;
+    /// The reason; empty when there are bytes.
     String error;
 };
 
