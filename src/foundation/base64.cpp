@@ -33,8 +33,8 @@ void appendBase64(std::string& text, DataView bytes) {
     std::size_t at = text.size();
     text.resize(at + (bytes.size() + 2) / 3 * 4, '=');
     for (; !bytes.empty(); bytes = bytes.subspan(std::min<std::size_t>(bytes.size(), 3))) {
-        std::uint32_t group = bytes[0] << 16U;
-        if (bytes.size() > 1) group |= bytes[1] << 8U;
+        std::uint32_t group = std::uint32_t{bytes[0]} << 16;
+        if (bytes.size() > 1) group |= std::uint32_t{bytes[1]} << 8;
         if (bytes.size() > 2) group |= bytes[2];
         const std::size_t symbols = std::min<std::size_t>(bytes.size(), 3) + 1;
         for (std::size_t i = 0; i < symbols; ++i)
