@@ -102,11 +102,18 @@ std::size_t segmentEnd(StringView text, std::size_t start, const Folding& foldin
     return end;
 }
 
+/// Whether folding leaves a segment alone that is the code point `point`; true
+/// of most characters of scripts without cases.
+bool isInert(char32_t point, const Folding& folding) {
+    const auto character = static_cast<UChar32>(point);
+    return !folding.ignoresWidth && unorm2_isInert(decomposing(), character) &&
+           !u_hasBinaryProperty(character, UCHAR_CASE_SENSITIVE);
+}
+
 void appendFolded(String& to, StringView segment, const Folding& folding) {
-    if (segment.size() == 1 && segment.front() < 0x80) {
-        const char16_t unit = segment.front();
-        const bool lowers = folding.ignoresCase && unit >= u'A' && unit <= u'Z';
-        to.push_back(lowers ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit);
+    const CodePoint first = codePointAt(segment, 0);
+    if (first.length == segment.size() && isInert(first.value, folding)) {
+        to.append(segment);
         return;
     }
     String folded(segment);
@@ -119,6 +126,17 @@ void appendFolded(String& to, StringView segment, const Folding& folding) {
     to.append(folded);
 }
 
+/// Whether the unit at `index` is an ASCII character without marks.
+bool isPlainAscii(StringView text, std::size_t index) {
+    const bool isMarked = index + 1 < text.size() && text[index + 1] >= kFirstCombiningMark;
+    return text[index] < 0x80 && !isMarked;
+}
+
+char16_t foldedAscii(char16_t unit, const Folding& folding) {
+    const bool lowers = folding.ignoresCase && unit >= u'A' && unit <= u'Z';
+    return lowers ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
+
 }  // namespace
 
 FoldedText foldedText(StringView text, Folding folding) {
@@ -126,8 +144,13 @@ FoldedText foldedText(StringView text, Folding folding) {
     folded.units.reserve(text.size());
     folded.sources.reserve(text.size() + 1);
     for (std::size_t start = 0; start < text.size();) {
-        const std::size_t end = segmentEnd(text, start, folding);
-        appendFolded(folded.units, text.substr(start, end - start), folding);
+        std::size_t end = start + 1;
+        if (isPlainAscii(text, start)) {
+            folded.units.push_back(foldedAscii(text[start], folding));
+        } else {
+            end = segmentEnd(text, start, folding);
+            appendFolded(folded.units, text.substr(start, end - start), folding);
+        }
         folded.sources.resize(folded.units.size(), start);
         start = end;
     }
