@@ -43,7 +43,7 @@ namespace QZCore {
 /// The pieces of `text` between the matches of the regular expression
 /// `pattern`, the pieces before the first and after the last match included,
 /// empty ones too. A match of length 0 splits as any other. The whole text is
-/// the only piece when nothing matches or `pattern` is not well-formed.
+/// the only piece when nothing matches or `pattern` is empty or not well-formed.
 [[nodiscard]] QZ_EXPORT std::vector<String> componentsSeparatedByPattern(StringView text,
                                                                          StringView pattern);
 
