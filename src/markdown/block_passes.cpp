@@ -24,7 +24,7 @@ void renderCodeBlocks(RenderingContext& context, const MarkdownExpression& expre
          {kStyleFontColor, colorStringForKey(preferences, u"Markdown Code Block Text Color")},
          {kStyleBackgroundColor,
           preferences.stringForKey(u"Markdown Code Block Background Color", u"#f1f1f1")}},
-        u"```", context.ignoreMark());
+        u"```", context.afterRendering());
     context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
         return MatchEdit::keep(match.groups[0], styles.forMatchAt(id));
     });

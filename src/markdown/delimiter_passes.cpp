@@ -68,7 +68,8 @@ void renderInlineCode(RenderingContext& context, const MarkdownExpression& expre
     }
     // A run of two or three backticks loses only its outermost. Deliberate:
     // the inner ones show that the code was quoted with more than one.
-    renderStyled(context, expression, 1, {context, std::move(style), u"`", context.ignoreMark()});
+    renderStyled(context, expression, 1,
+                 {context, std::move(style), u"`", context.afterRendering()});
 }
 
 void renderUnderline(RenderingContext& context, const MarkdownExpression& expression) {

@@ -1,4 +1,4 @@
-#include <optional>
+#include <unordered_map>
 #include <utility>
 
 #include "QZCore/color.h"
@@ -26,7 +26,7 @@ StringView partOf(StringView text, SpanMatch::Span span) {
 
 /// What link texts take beside the link itself.
 TextAttributes linkLook(const RenderingContext& context) {
-    TextAttributes look = context.ignoreMark();
+    TextAttributes look;
     const auto color = colorForKey(context.preferences, u"Link Color");
     if (color && !color->isEqualByString(Color::clearColor())) {
         look = look.withAttribute(NSForegroundColorAttributeName, Value::boxed(*color));
@@ -41,25 +41,26 @@ TextAttributes linkLook(const RenderingContext& context) {
 /// the order in which matches are visited: the last one first.
 class Images {
 public:
-    Images(RenderingContext& context, const std::vector<SpanMatch>& matches)
-        : attachments_(matches.size()) {
+    Images(RenderingContext& context, const std::vector<SpanMatch>& matches) {
         const StringView live = context.text.live();
         const std::vector<bool> kept = context.text.ignoredMatches();
         ImageFetch fetch(context.preferences);
         for (std::size_t i = matches.size(); i-- > 0;) {
             const SpanMatch& match = matches[i];
             if (kept[i] || !capturesTextAndTarget(match) || !isImage(live, match)) continue;
-            attachments_[i] =
-                fetch.attachmentFor(partOf(live, match.groups[0]), partOf(live, match.groups[1]));
+            attachments_.emplace(i, fetch.attachmentFor(partOf(live, match.groups[0]),
+                                                        partOf(live, match.groups[1])));
         }
     }
 
-    [[nodiscard]] const std::optional<TextAttachment>& at(std::size_t match) const {
-        return attachments_[match];
+    /// The image of a match, or null.
+    [[nodiscard]] const TextAttachment* find(std::size_t match) const {
+        const auto found = attachments_.find(match);
+        return found == attachments_.end() ? nullptr : &found->second;
     }
 
 private:
-    std::vector<std::optional<TextAttachment>> attachments_;
+    std::unordered_map<std::size_t, TextAttachment> attachments_;
 };
 
 }  // namespace
@@ -68,21 +69,22 @@ void renderLinks(RenderingContext& context, const MarkdownExpression& expression
     const std::vector<SpanMatch>& matches = context.text.find(expression);
     if (matches.empty()) return;
     const Images images(context, matches);
-    const TextAttributes look = linkLook(context);
+    AddedAttributes look(linkLook(context), context.afterRendering());
+    const AttributeName linkName = NSLinkAttributeName;
     const StringView live = context.text.live();
     AddedAttributes added;
     context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
         if (!capturesTextAndTarget(match)) return MatchEdit::leave();
         AttributePalette& palette = context.text.palette();
         const auto index = static_cast<std::size_t>(&match - matches.data());
-        if (const auto& image = images.at(index)) {
+        if (const TextAttachment* image = images.find(index)) {
             const TextAttributes around = palette.at(id);
             return MatchEdit::replace(kAttachmentString,
                                       palette.idOf(around.withAttribute(NSAttachmentAttributeName,
                                                                         Value::boxed(*image))));
         }
         const Value link = linkForTarget(partOf(live, match.groups[1]));
-        added = AddedAttributes(look.withAttribute(NSLinkAttributeName, link));
+        added = AddedAttributes(look, {linkName, link});
         return MatchEdit::keep(match.groups[0], added);
     });
 }

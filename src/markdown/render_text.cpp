@@ -7,6 +7,11 @@
 #include "markdown/expression_matches.h"
 
 namespace QZCore {
+namespace {
+
+bool isIgnored(std::uint32_t id) { return (id & kIgnoreMark) != 0; }
+
+}  // namespace
 
 /// One forward walk over text, search copy and runs, which closes the gaps that
 /// deletions leave as it goes.
@@ -88,6 +93,7 @@ private:
 };
 
 RenderText::RenderText(FlatText text, const MarkdownExpression* escapes) : flat_(std::move(text)) {
+    markIgnored();
     if (escapes == nullptr) return;
     findMatches(*escapes, flat_.text, matches_);
     copyDiffers_ = !matches_.empty();
@@ -99,17 +105,29 @@ RenderText::RenderText(FlatText text, const MarkdownExpression* escapes) : flat_
     }
 }
 
-bool RenderText::isIgnored(std::uint32_t id) const {
-    return flat_.palette.at(id).find(kIgnoreBlockAttributeName) != nullptr;
+template <class NewId>
+void RenderText::renumber(NewId newId) {
+    sweptRuns_.clear();
+    for (const FlatRun& run : flat_.runs) appendRun(sweptRuns_, run.end, newId(run.id));
+    std::swap(flat_.runs, sweptRuns_);
+}
+
+/// Replaces the attribute that keeps passes away by the mark.
+void RenderText::markIgnored() {
+    NumberMap numbers;
+    renumber([&](std::uint32_t id) {
+        return numbers(id, [&](std::uint32_t old) {
+            const TextAttributes before = flat_.palette.at(old);
+            if (before.find(kIgnoreBlockAttributeName) == nullptr) return old;
+            return kIgnoreMark |
+                   flat_.palette.idOf(before.withoutAttribute(kIgnoreBlockAttributeName));
+        });
+    });
 }
 
 void RenderText::addEverywhere(const TextAttributes& attributes) {
     AddedAttributes added(attributes);
-    sweptRuns_.clear();
-    for (const FlatRun& run : flat_.runs) {
-        appendRun(sweptRuns_, run.end, added.over(run.id, flat_.palette));
-    }
-    std::swap(flat_.runs, sweptRuns_);
+    renumber([&](std::uint32_t id) { return added.over(id, flat_.palette); });
 }
 
 const std::vector<SpanMatch>& RenderText::find(const MarkdownExpression& expression) {
@@ -161,16 +179,7 @@ void RenderText::resolveEscapes(const MarkdownExpression& escapes) {
 }
 
 void RenderText::removeIgnoreMarks() {
-    NumberMap numbers;
-    sweptRuns_.clear();
-    for (const FlatRun& run : flat_.runs) {
-        const std::uint32_t id = numbers(run.id, [&](std::uint32_t old) {
-            const TextAttributes marked = flat_.palette.at(old);
-            return flat_.palette.idOf(marked.withoutAttribute(kIgnoreBlockAttributeName));
-        });
-        appendRun(sweptRuns_, run.end, id);
-    }
-    std::swap(flat_.runs, sweptRuns_);
+    renumber([](std::uint32_t id) { return id & ~kIgnoreMark; });
 }
 
 }  // namespace QZCore

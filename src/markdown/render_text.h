@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "QZCore/markdown/syntax.h"
@@ -12,23 +13,42 @@
 
 namespace QZCore {
 
+/// Whether later passes leave what a pass has rendered alone.
+enum class LaterPasses { GoOn, KeepAway };
+
+/// Runs that later passes are kept away from have this bit in the number of
+/// their attributes.
+inline constexpr std::uint32_t kIgnoreMark = std::uint32_t{1} << 31;
+
 /// Attributes that a pass adds, with what that gives for each set that they
 /// were added to before.
 class AddedAttributes {
 public:
     AddedAttributes() = default;
-    explicit AddedAttributes(TextAttributes added) : added_(std::move(added)) {}
+    explicit AddedAttributes(TextAttributes added, LaterPasses later = LaterPasses::GoOn)
+        : added_(std::move(added)), mark_(later == LaterPasses::KeepAway ? kIgnoreMark : 0) {}
+    /// One attribute on top of those that `first` adds, which must outlive this.
+    AddedAttributes(AddedAttributes& first, TextAttribute last)
+        : mark_(first.mark_), first_(&first), last_(std::move(last)) {}
 
     /// The number of the set with the number `id` after the addition.
     std::uint32_t over(std::uint32_t id, AttributePalette& palette) {
-        return numbers_(id, [&](std::uint32_t old) {
-            const TextAttributes before = palette.at(old);
-            return palette.idOf(before.mergedWith(added_));
-        });
+        return mark_ | (id & kIgnoreMark) | numbers_(id & ~kIgnoreMark, [&](std::uint32_t old) {
+                   return palette.idOf(addedTo(old, palette));
+               });
     }
 
 private:
+    TextAttributes addedTo(std::uint32_t id, AttributePalette& palette) {
+        if (first_ == nullptr) return palette.at(id).mergedWith(added_);
+        const std::uint32_t first = first_->over(id, palette) & ~kIgnoreMark;
+        return palette.at(first).withAttribute(last_->name, last_->value);
+    }
+
     TextAttributes added_;
+    std::uint32_t mark_ = 0;
+    AddedAttributes* first_ = nullptr;
+    std::optional<TextAttribute> last_;
     NumberMap numbers_;
 };
 
@@ -66,10 +86,8 @@ public:
     [[nodiscard]] AttributePalette& palette() { return flat_.palette; }
     /// The number of the attributes at the start of the text.
     [[nodiscard]] std::uint32_t firstId() const {
-        return flat_.runs.empty() ? 0 : flat_.runs.front().id;
+        return flat_.runs.empty() ? 0 : flat_.runs.front().id & ~kIgnoreMark;
     }
-    /// Whether a set carries the mark that keeps passes away.
-    [[nodiscard]] bool isIgnored(std::uint32_t id) const;
 
     /// Adds attributes to the whole text.
     void addEverywhere(const TextAttributes& added);
@@ -100,6 +118,10 @@ public:
 
 private:
     class Sweep;
+
+    void markIgnored();
+    template <class NewId>
+    void renumber(NewId newId);
 
     FlatText flat_;
     String searchCopy_;

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "QZCore/markdown/rendering.h"
-
 namespace QZCore {
 
 const Dictionary* RenderingContext::styleNamed(StringView name) const {
@@ -16,24 +14,24 @@ const Font& RenderingContext::fontOf(std::uint32_t id) const {
     return font == nullptr ? baseFont : *font;
 }
 
-TextAttributes RenderingContext::ignoreMark() const {
-    if (!preferences.boolForKey(u"Markdown Use Ignore Block", true)) return {};
-    return {{kIgnoreBlockAttributeName, u""}};
+LaterPasses RenderingContext::afterRendering() const {
+    const bool keepsAway = preferences.boolForKey(u"Markdown Use Ignore Block", true);
+    return keepsAway ? LaterPasses::KeepAway : LaterPasses::GoOn;
 }
 
 ResolvedStyles::ResolvedStyles(RenderingContext& context, Dictionary defaultStyle,
-                               StringView userStyleName, TextAttributes extra)
+                               StringView userStyleName, LaterPasses later)
     : context_(context),
       defaultStyle_(std::move(defaultStyle)),
       userStyle_(context.styleNamed(userStyleName)),
-      extra_(std::move(extra)) {}
+      later_(later) {}
 
 AddedAttributes& ResolvedStyles::forMatchAt(std::uint32_t id) {
     const auto [at, isNew] = resolved_.try_emplace(id);
     if (isNew) {
-        const TextAttributes resolved =
-            fontAttributesWithDefaultStyle(&defaultStyle_, userStyle_, context_.fontOf(id));
-        at->second = AddedAttributes(resolved.mergedWith(extra_));
+        at->second = AddedAttributes(
+            fontAttributesWithDefaultStyle(&defaultStyle_, userStyle_, context_.fontOf(id)),
+            later_);
     }
     return at->second;
 }

@@ -23,18 +23,17 @@ struct RenderingContext {
     /// The font of the attributes with the number `id`.
     [[nodiscard]] const Font& fontOf(std::uint32_t id) const;
 
-    /// The attribute that keeps later passes away, where the preferences ask
-    /// for it; else none.
-    [[nodiscard]] TextAttributes ignoreMark() const;
+    /// Whether rendered code and link texts are kept from later passes, as the
+    /// preferences have it.
+    [[nodiscard]] LaterPasses afterRendering() const;
 };
 
 /// What a construct's default style and user style prescribe, resolved once for
 /// each set of attributes that a match starts with.
 class ResolvedStyles {
 public:
-    /// `extra` is added to whatever the styles give.
     ResolvedStyles(RenderingContext& context, Dictionary defaultStyle, StringView userStyleName,
-                   TextAttributes extra = {});
+                   LaterPasses later = LaterPasses::GoOn);
 
     /// The attributes to add to a match that starts with the set `id`.
     [[nodiscard]] AddedAttributes& forMatchAt(std::uint32_t id);
@@ -43,7 +42,7 @@ private:
     RenderingContext& context_;
     Dictionary defaultStyle_;
     const Dictionary* userStyle_;
-    TextAttributes extra_;
+    LaterPasses later_;
     std::unordered_map<std::uint32_t, AddedAttributes> resolved_;
 };
 

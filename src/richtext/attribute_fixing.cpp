@@ -1,5 +1,6 @@
 #include "richtext/attribute_fixing.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace QZCore {
@@ -11,16 +12,20 @@ bool paragraphEndsBefore(StringView text, std::size_t position) {
 }
 
 void fixAttachments(FlatText& text) {
+    const auto hasAttachment = [&](const FlatRun& run) {
+        return text.palette.at(run.id).attachment() != nullptr;
+    };
+    if (std::ranges::none_of(text.runs, hasAttachment)) return;
     std::vector<FlatRun> fixed;
     std::uint32_t start = 0;
     bool changed = false;
     for (const FlatRun& run : text.runs) {
-        const TextAttributes attributes = text.palette.at(run.id);
-        if (attributes.attachment() == nullptr) {
+        if (!hasAttachment(run)) {
             appendRun(fixed, run.end, run.id);
             start = run.end;
             continue;
         }
+        const TextAttributes attributes = text.palette.at(run.id);
         for (; start < run.end; ++start) {
             const bool keeps = text.text[start] == kAttachmentCharacter;
             changed |= !keeps;

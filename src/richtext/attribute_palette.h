@@ -1,8 +1,8 @@
 // The attribute sets that one text uses, by small numbers.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 #include "QZCore/richtext/text_attributes.h"
@@ -32,12 +32,14 @@ public:
 private:
     static constexpr std::uint32_t kNone = UINT32_MAX;
 
-    struct Hash {
-        std::size_t operator()(const TextAttributes& attributes) const { return attributes.hash(); }
-    };
+    [[nodiscard]] std::size_t slotOf(const TextAttributes& attributes) const;
+    std::uint32_t add(const TextAttributes& attributes);
+    void growSlots();
 
     std::vector<TextAttributes> entries_;
-    std::unordered_map<TextAttributes, std::uint32_t, Hash> ids_;
+    // The numbers in use, found by the hash of their sets; a power of two, half
+    // of them free at least.
+    std::vector<std::uint32_t> slots_;
     std::vector<std::uint32_t> free_;
     std::size_t added_ = 0;
     std::uint32_t last_ = kNone;  // a number in use, asked for most recently

@@ -1,6 +1,8 @@
 #include <array>
+#include <optional>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "QZCore/platform/fonts.h"
 #include "richtext/attribute_fixing.h"
@@ -21,29 +23,53 @@ bool joinsPrevious(char32_t character) {
            (character >= 0xE0100 && character <= 0xE01EF);
 }
 
-/// For one attribute set: the set that each character takes.
-class Substitutions {
+/// Numbers fonts, so that runs of one font share what is found out about it,
+/// whatever else they carry.
+class FontNumbers {
 public:
-    Substitutions(std::uint32_t id, const Font& font) : id_(id), font_(font) {}
-
-    /// The number of the set for `character`.
-    std::uint32_t idFor(char32_t character, AttributePalette& palette, const FontCatalog& catalog) {
-        if (character < ascii_.size()) {
-            if (ascii_[character] == kUnknown)
-                ascii_[character] = find(character, palette, catalog);
-            return ascii_[character];
-        }
-        const auto [at, isNew] = others_.try_emplace(character, kUnknown);
-        if (isNew) at->second = find(character, palette, catalog);
+    /// The number of `font`, given now if it had none.
+    std::uint32_t operator()(const Font& font) {
+        const auto next = static_cast<std::uint32_t>(fonts_.size());
+        const auto [at, isNew] = numbers_.try_emplace(font, next);
+        if (isNew) fonts_.push_back(font);
         return at->second;
     }
 
-    /// Whether all printing ASCII characters were found to keep their font.
-    bool keepsAscii(AttributePalette& palette, const FontCatalog& catalog) {
+    [[nodiscard]] const Font& at(std::uint32_t number) const { return fonts_[number]; }
+
+private:
+    struct Hash {
+        std::size_t operator()(const Font& font) const { return hashOf(font); }
+    };
+
+    std::unordered_map<Font, std::uint32_t, Hash> numbers_;
+    std::vector<Font> fonts_;
+};
+
+/// For one font: the number of the font that each character takes.
+class Substitutes {
+public:
+    Substitutes(std::uint32_t font, FontNumbers& fonts, const FontCatalog& catalog)
+        : font_(font), fonts_(fonts), catalog_(catalog) {
+        ascii_.fill(kUnknown);
+    }
+
+    [[nodiscard]] std::uint32_t font() const { return font_; }
+
+    std::uint32_t fontFor(char32_t character) {
+        std::uint32_t& known = character < ascii_.size()
+                                   ? ascii_[character]
+                                   : others_.try_emplace(character, kUnknown).first->second;
+        if (known == kUnknown) known = find(character);
+        return known;
+    }
+
+    /// Whether all ASCII characters keep the font.
+    bool keepsAscii() {
         if (!asciiChecked_) {
             asciiChecked_ = true;
-            for (char32_t character = 0; character < 0x80; ++character) {
-                keepsAscii_ &= idFor(character, palette, catalog) == id_;
+            for (char32_t character = 0; character < ascii_.size(); ++character) {
+                keepsAscii_ &= fontFor(character) == font_;
             }
         }
         return keepsAscii_;
@@ -52,21 +78,17 @@ public:
 private:
     static constexpr std::uint32_t kUnknown = UINT32_MAX;
 
-    std::uint32_t find(char32_t character, AttributePalette& palette, const FontCatalog& catalog) {
-        if (catalog.showsCharacter(font_, character)) return id_;
-        const auto substitute = catalog.substituteFor(font_, character);
-        if (!substitute) return id_;
-        const TextAttributes before = palette.at(id_);
-        return palette.idOf(before.withAttribute(NSFontAttributeName, Value::boxed(*substitute)));
+    [[nodiscard]] std::uint32_t find(char32_t character) {
+        const Font font = fonts_.at(font_);
+        if (catalog_.showsCharacter(font, character)) return font_;
+        const auto substitute = catalog_.substituteFor(font, character);
+        return substitute ? fonts_(*substitute) : font_;
     }
 
-    std::uint32_t id_;
-    Font font_;
-    std::array<std::uint32_t, 0x80> ascii_ = [] {
-        std::array<std::uint32_t, 0x80> unknown{};
-        unknown.fill(kUnknown);
-        return unknown;
-    }();
+    std::uint32_t font_;
+    FontNumbers& fonts_;
+    const FontCatalog& catalog_;
+    std::array<std::uint32_t, 0x80> ascii_;
     std::unordered_map<char32_t, std::uint32_t> others_;
     bool asciiChecked_ = false;
     bool keepsAscii_ = true;
@@ -99,9 +121,9 @@ public:
 
 private:
     void addRun(std::size_t start, const FlatRun& run) {
-        Substitutions* substitutions = substitutionsFor(run.id);
-        if (substitutions == nullptr) return appendRun(fixed_, run.end, run.id);
-        const bool skipsAscii = substitutions->keepsAscii(text_.palette, catalog_);
+        Substitutes* substitutes = substitutesFor(run.id);
+        if (substitutes == nullptr) return appendRun(fixed_, run.end, run.id);
+        const bool skipsAscii = substitutes->keepsAscii();
         const StringView text = text_.text;
         std::uint32_t id = run.id;
         while (start < run.end) {
@@ -111,7 +133,7 @@ private:
             if (end == run.end) return;
             const CodePoint point = codePointAt(text.substr(0, run.end), end);
             if (!joinsPrevious(point.value) || id == run.id) {
-                id = substitutions->idFor(point.value, text_.palette, catalog_);
+                id = idInFont(run.id, substitutes->font(), substitutes->fontFor(point.value));
             }
             changed_ |= id != run.id;
             start = end + point.length;
@@ -119,18 +141,39 @@ private:
         }
     }
 
-    /// The substitutions for the attributes `id`; null when they have no font.
-    Substitutions* substitutionsFor(std::uint32_t id) {
-        const auto known = known_.find(id);
-        if (known != known_.end()) return &known->second;
-        const Font* font = text_.palette.at(id).font();
+    /// The substitutes for the font of the attributes `id`; null when they have
+    /// none.
+    Substitutes* substitutesFor(std::uint32_t id) {
+        if (id >= known_.size()) known_.resize(text_.palette.size());
+        if (!known_[id]) known_[id] = substitutesFor(text_.palette.at(id).font());
+        return *known_[id];
+    }
+
+    Substitutes* substitutesFor(const Font* font) {
         if (font == nullptr) return nullptr;
-        return &known_.try_emplace(id, id, *font).first->second;
+        const std::uint32_t number = fonts_(*font);
+        return &substitutes_.try_emplace(number, number, fonts_, catalog_).first->second;
+    }
+
+    /// The attributes `id`, whose font has the number `own`, in another font.
+    std::uint32_t idInFont(std::uint32_t id, std::uint32_t own, std::uint32_t font) {
+        if (font == own) return id;
+        const std::uint64_t key = std::uint64_t{id} << 32 | font;
+        const auto [at, isNew] = idsInFonts_.try_emplace(key, 0);
+        if (isNew) {
+            const TextAttributes before = text_.palette.at(id);
+            at->second = text_.palette.idOf(
+                before.withAttribute(NSFontAttributeName, Value::boxed(fonts_.at(font))));
+        }
+        return at->second;
     }
 
     FlatText& text_;
     const FontCatalog& catalog_;
-    std::unordered_map<std::uint32_t, Substitutions> known_;
+    FontNumbers fonts_;
+    std::unordered_map<std::uint32_t, Substitutes> substitutes_;  // by the font's number
+    std::unordered_map<std::uint64_t, std::uint32_t> idsInFonts_;
+    std::vector<std::optional<Substitutes*>> known_;  // by the attributes' number
     std::vector<FlatRun> fixed_;
     bool changed_ = false;
 };

@@ -39,6 +39,8 @@ public:
     /// The number of the attributes at `offset`.
     [[nodiscard]] std::uint32_t idAt(std::size_t offset) const { return runs_[runAt(offset)].id; }
 
+    /// Makes room for `length` units.
+    void reserve(std::size_t length) { text_.reserve(length); }
     /// Adds `text` with the attributes `id` at the end.
     void append(StringView text, std::uint32_t id);
     /// Adds the units [from, to) of `other` at the end.

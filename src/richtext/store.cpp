@@ -30,7 +30,9 @@ void RichText::Store::append(StringView text, const TextAttributes& attributes) 
 void RichText::Store::appendNumbered(StringView text, std::uint32_t id) {
     while (!text.empty()) {
         if (pieces_.empty() || pieces_.back()->length() >= Piece::kFill) {
+            const bool isLong = !pieces_.empty();
             pieces_.push_back(std::make_shared<Piece>());
+            if (isLong || text.size() >= Piece::kFill) pieces_.back()->reserve(Piece::kFill);
             lengths_.push_back(0);
         }
         const std::size_t taken = std::min(Piece::kFill - lengths_.back(), text.size());

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <atomic>
+#include <iterator>
 #include <mutex>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -24,6 +24,7 @@ struct TextAttributes::Node {
     std::int32_t underlineStyle = 0;
     std::int32_t strikethroughStyle = 0;
     std::atomic<std::size_t> references = 1;
+    Node* next = nullptr;  // in the same bucket of the table
 };
 
 namespace {
@@ -31,7 +32,8 @@ namespace {
 /// What one attribute adds to the hash of a set. The hash is a sum, so that it
 /// follows from another set's when one attribute changes.
 std::size_t hashShare(const TextAttribute& entry) {
-    return hashCombine(hashText(entry.name.text()), entry.value.hash());
+    const auto name = reinterpret_cast<std::uintptr_t>(&entry.name.text());  // stored once
+    return hashCombine(name, entry.value.hash());
 }
 
 std::size_t hashOfEntries(const std::vector<TextAttribute>& entries) {
@@ -82,23 +84,24 @@ struct TextAttributes::Table {
     Node* nodeFor(std::vector<TextAttribute> entries, std::size_t hash) {
         if (entries.empty()) return nullptr;
         const std::lock_guard lock(mutex_);
-        const auto [first, last] = nodes_.equal_range(hash);
-        for (auto at = first; at != last; ++at) {
-            if (!equalEntries(at->second->entries, entries)) continue;
-            at->second->references.fetch_add(1, std::memory_order_relaxed);
-            return at->second;
+        for (Node* node = bucketOf(hash); node != nullptr; node = node->next) {
+            if (node->hash != hash || !equalEntries(node->entries, entries)) continue;
+            node->references.fetch_add(1, std::memory_order_relaxed);
+            return node;
         }
+        if (++count_ > buckets_.size()) grow();
         Node* node = make(std::move(entries), hash);
-        nodes_.emplace(hash, node);
+        node->next = std::exchange(bucketOf(hash), node);
         return node;
     }
 
     void releaseLast(Node* node) {
         std::unique_lock lock(mutex_);
         if (node->references.fetch_sub(1, std::memory_order_acq_rel) > 1) return;
-        const auto [first, last] = nodes_.equal_range(node->hash);
-        nodes_.erase(
-            std::find_if(first, last, [node](const auto& at) { return at.second == node; }));
+        Node** at = &bucketOf(node->hash);
+        while (*at != node) at = &(*at)->next;
+        *at = node->next;
+        --count_;
         lock.unlock();
         delete node;
     }
@@ -133,8 +136,25 @@ private:
         }
     }
 
+    Node*& bucketOf(std::size_t hash) { return buckets_[hash & (buckets_.size() - 1)]; }
+
+    void grow() {
+        std::vector<Node*> old(buckets_.size() * 2);
+        old.swap(buckets_);
+        for (Node* node : old) {
+            while (node != nullptr) {
+                Node* const next = std::exchange(node->next, bucketOf(node->hash));
+                bucketOf(node->hash) = node;
+                node = next;
+            }
+        }
+    }
+
     std::mutex mutex_;
-    std::unordered_multimap<std::size_t, Node*> nodes_;
+    std::size_t count_ = 0;
+    // As many as a power of two; each is a list of the sets whose hash ends in
+    // its number.
+    std::vector<Node*> buckets_ = std::vector<Node*>(256);
 };
 
 AttributeName::AttributeName(StringView text) {
@@ -232,7 +252,9 @@ std::int32_t TextAttributes::strikethroughStyle() const {
 }
 
 TextAttributes TextAttributes::withAttribute(AttributeName name, const Value& value) const {
-    std::vector<TextAttribute> changed = entries();
+    std::vector<TextAttribute> changed;
+    changed.reserve(entries().size() + 1);
+    changed.assign(entries().begin(), entries().end());
     std::size_t hash = node_ == nullptr ? 0 : node_->hash;
     auto at = std::ranges::lower_bound(changed, name.text(), {}, nameOf);
     if (at != changed.end() && at->name == name) {
@@ -250,9 +272,13 @@ TextAttributes TextAttributes::withoutAttribute(StringView name) const {
 TextAttributes TextAttributes::mergedWith(const TextAttributes& other) const {
     if (empty()) return other;
     if (other.empty()) return *this;
-    std::vector<TextAttribute> merged = entries();
-    merged.insert(merged.end(), other.entries().begin(), other.entries().end());
-    return TextAttributes(std::move(merged));
+    std::vector<TextAttribute> merged;
+    merged.reserve(entries().size() + other.entries().size());
+    // Of two entries with the same name the union takes the first range's.
+    std::ranges::set_union(other.entries(), entries(), std::back_inserter(merged), {}, nameOf,
+                           nameOf);
+    const std::size_t hash = hashOfEntries(merged);
+    return TextAttributes(std::move(merged), hash);
 }
 
 TextAttributes TextAttributes::textAttributesByRemovingLinkAttributes() const {
