@@ -8,12 +8,9 @@
 
 namespace QZCore {
 
-/// The first position at or after `from` whose unit is `wanted`; the length of
-/// the text when there is none. `wanted` should be free of branches: it is
-/// asked for blocks of units at once.
-template <class Wanted>
-[[nodiscard]] std::size_t findFirst(StringView text, std::size_t from, Wanted wanted) {
-    constexpr std::size_t kBlock = 32;
+/// Skips blocks of `kBlock` units of which none is `wanted`.
+template <std::size_t kBlock, class Wanted>
+[[nodiscard]] std::size_t skipBlocks(StringView text, std::size_t from, Wanted wanted) {
     const char16_t* units = text.data();
     while (text.size() - from >= kBlock) {
         std::uint16_t found = 0;
@@ -23,7 +20,17 @@ template <class Wanted>
         if (found != 0) break;
         from += kBlock;
     }
-    while (from < text.size() && !wanted(units[from])) ++from;
+    return from;
+}
+
+/// The first position at or after `from` whose unit is `wanted`; the length of
+/// the text when there is none. `wanted` should be free of branches: it is
+/// asked for blocks of units at once.
+template <class Wanted>
+[[nodiscard]] std::size_t findFirst(StringView text, std::size_t from, Wanted wanted) {
+    from = skipBlocks<32>(text, from, wanted);
+    from = skipBlocks<8>(text, from, wanted);
+    while (from < text.size() && !wanted(text[from])) ++from;
     return from;
 }
 

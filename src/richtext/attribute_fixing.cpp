@@ -1,6 +1,7 @@
 #include "richtext/attribute_fixing.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace QZCore {
@@ -57,7 +58,7 @@ bool sameParagraphStyle(const TextAttributes& a, const TextAttributes& b) {
 /// goes on until a run ends with its last character.
 class ParagraphFixer {
 public:
-    explicit ParagraphFixer(FlatText& text) : text_(text) {}
+    explicit ParagraphFixer(FlatText& text) : text_(text) { fixed_.reserve(text.runs.size()); }
 
     void fix() {
         for (const FlatRun& run : text_.runs) add(run);
@@ -85,17 +86,22 @@ private:
     }
 
     std::uint32_t withOpenStyle(std::uint32_t id) {
-        const Value style =
-            text_.palette.at(openStyle_).objectForKey(NSParagraphStyleAttributeName);
-        const TextAttributes changed =
-            text_.palette.at(id).withAttribute(NSParagraphStyleAttributeName, style);
-        return text_.palette.idOf(changed);
+        const std::uint64_t key = std::uint64_t{openStyle_} << 32 | id;
+        const auto [at, isNew] = withOpenStyle_.try_emplace(key, id);
+        if (isNew) {
+            const Value style = text_.palette.at(openStyle_).objectForKey(styleName_.text());
+            const TextAttributes changed = text_.palette.at(id).withAttribute(styleName_, style);
+            at->second = text_.palette.idOf(changed);
+        }
+        return at->second;
     }
 
     FlatText& text_;
     std::vector<FlatRun> fixed_;
     std::uint32_t at_ = 0;
     std::uint32_t openStyle_ = 0;  // attributes with the open paragraph's style
+    std::unordered_map<std::uint64_t, std::uint32_t> withOpenStyle_;  // by both numbers
+    const AttributeName styleName_ = NSParagraphStyleAttributeName;
     bool changed_ = false;
 };
 

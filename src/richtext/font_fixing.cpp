@@ -108,7 +108,9 @@ std::size_t firstBeyondAscii(StringView text, std::size_t at, std::size_t end) {
 
 class FontFixer {
 public:
-    FontFixer(FlatText& text, const FontCatalog& catalog) : text_(text), catalog_(catalog) {}
+    FontFixer(FlatText& text, const FontCatalog& catalog) : text_(text), catalog_(catalog) {
+        fixed_.reserve(text.runs.size());
+    }
 
     void fix() {
         std::size_t start = 0;
@@ -151,8 +153,12 @@ private:
 
     Substitutes* substitutesFor(const Font* font) {
         if (font == nullptr) return nullptr;
+        if (font == lastFont_) return lastSubstitutes_;
         const std::uint32_t number = fonts_(*font);
-        return &substitutes_.try_emplace(number, number, fonts_, catalog_).first->second;
+        lastSubstitutes_ =
+            &substitutes_.try_emplace(number, number, fonts_, catalog_).first->second;
+        lastFont_ = font;
+        return lastSubstitutes_;
     }
 
     /// The attributes `id`, whose font has the number `own`, in another font.
@@ -174,6 +180,9 @@ private:
     std::unordered_map<std::uint32_t, Substitutes> substitutes_;  // by the font's number
     std::unordered_map<std::uint64_t, std::uint32_t> idsInFonts_;
     std::vector<std::optional<Substitutes*>> known_;  // by the attributes' number
+    // Most sets share their font as an object.
+    const Font* lastFont_ = nullptr;
+    Substitutes* lastSubstitutes_ = nullptr;
     std::vector<FlatRun> fixed_;
     bool changed_ = false;
 };
