@@ -24,7 +24,8 @@ namespace {
 
 /// Units from one bold word to the next.
 constexpr std::size_t kSpan = 25;
-constexpr QZCore::StringView kSpanText = u"the next **word** is bold";
+constexpr QZCore::StringView kSpanText = u"the next **word** is new ";
+constexpr std::size_t kSpansPerLine = 8;
 constexpr std::size_t kWordStart = 11;
 constexpr std::size_t kWordLength = 4;
 constexpr std::size_t kMarkerLength = 2;
@@ -32,7 +33,10 @@ static_assert(kSpanText.size() == kSpan);
 
 QZCore::String markedText(std::size_t size) {
     QZCore::String text;
-    while (text.size() < size) text += kSpanText;
+    for (std::size_t span = 1; text.size() < size; ++span) {
+        text += kSpanText;
+        if (span % kSpansPerLine == 0) text.back() = u'\n';
+    }
     return text;
 }
 

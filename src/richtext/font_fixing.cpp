@@ -79,7 +79,7 @@ private:
     static constexpr std::uint32_t kUnknown = UINT32_MAX;
 
     [[nodiscard]] std::uint32_t find(char32_t character) {
-        const Font font = fonts_.at(font_);
+        const Font& font = fonts_.at(font_);
         if (catalog_.showsCharacter(font, character)) return font_;
         const auto substitute = catalog_.substituteFor(font, character);
         return substitute ? fonts_(*substitute) : font_;

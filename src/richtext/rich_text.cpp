@@ -205,8 +205,9 @@ void RichText::setAttributes(const TextAttributes& attributes, Range range) {
 void RichText::addAttribute(StringView name, const Value& value, Range range) {
     range = clampedRange(range, length());
     noteEdit(range, range.length);
+    const AttributeName changed = name;
     changeableStore().changeAttributes(
-        range, [&](const TextAttributes& before) { return before.withAttribute(name, value); });
+        range, [&](const TextAttributes& before) { return before.withAttribute(changed, value); });
 }
 
 void RichText::addAttributes(const TextAttributes& attributes, Range range) {
