@@ -1,6 +1,8 @@
+#include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <limits>
+#include <string>
 
 #include "QZCore/color.h"
 #include "support/color_printing.h"
@@ -24,7 +26,8 @@ Color device(double red, double green, double blue, double alpha) {
 
 testing::PreferenceSetting hexAlpha(bool isOn) { return {u"Color Hex RGBA", isOn}; }
 
-/// The general form of a colour, as the C library prints it.
+/// The general form of a colour, as the C library prints it where numbers have
+/// a decimal point.
 String printedByC(const Color& color, bool isHexAlpha) {
     int steps[3];
     const double components[] = {color.redComponent(), color.greenComponent(),
@@ -34,7 +37,10 @@ String printedByC(const Color& color, bool isHexAlpha) {
                          : isHexAlpha                ? "rgba(%02x,%02x,%02x,%f)"
                                                      : "rgb(%d,%d,%d,%f)";
     char text[400];
+    const std::string locale = std::setlocale(LC_NUMERIC, nullptr);
+    std::setlocale(LC_NUMERIC, "C");
     std::snprintf(text, sizeof text, format, steps[0], steps[1], steps[2], color.alphaComponent());
+    std::setlocale(LC_NUMERIC, locale.c_str());
     return fromUTF8(text);
 }
 
