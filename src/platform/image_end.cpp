@@ -57,4 +57,15 @@ bool jpegHasEnd(DataView file) {
     return false;
 }
 
+bool bmpReachesPixels(DataView file) {
+    constexpr std::size_t kPixelStart = 10;
+    constexpr std::size_t kHeaderLength = 14;
+    if (file.size() < kHeaderLength + 4) return false;
+    const auto number = [&](std::size_t at) {
+        return std::uint32_t{file[at]} | std::uint32_t{file[at + 1]} << 8 |
+               std::uint32_t{file[at + 2]} << 16 | std::uint32_t{file[at + 3]} << 24;
+    };
+    return number(kPixelStart) <= file.size() && number(kHeaderLength) <= file.size();
+}
+
 }  // namespace QZCore

@@ -12,4 +12,8 @@ namespace QZCore {
 /// most: each scan costs a pass over all pixels, and a few bytes make one.
 [[nodiscard]] bool jpegHasEnd(DataView file);
 
+/// Whether a BMP file reaches the start of its pixels, as its header tells it.
+/// Its reader would take as much memory as that start, up to four gigabytes.
+[[nodiscard]] bool bmpReachesPixels(DataView file);
+
 }  // namespace QZCore

@@ -17,7 +17,7 @@ constexpr std::array kFormats{
     ImageFormat{"\xFF\xD8\xFF"sv, "jpeg", u"image/jpeg", jpegHasEnd, true},
     ImageFormat{"GIF87a"sv, "gif", u"image/gif", endIsTheReadersBusiness, false},
     ImageFormat{"GIF89a"sv, "gif", u"image/gif", endIsTheReadersBusiness, false},
-    ImageFormat{"BM"sv, "bmp", u"image/bmp", endIsTheReadersBusiness, true},
+    ImageFormat{"BM"sv, "bmp", u"image/bmp", bmpReachesPixels, true},
     ImageFormat{"II*\0"sv, "tiff", u"image/tiff", endIsTheReadersBusiness, true},
     ImageFormat{"MM\0*"sv, "tiff", u"image/tiff", endIsTheReadersBusiness, true},
 };
