@@ -1,5 +1,7 @@
 #include "QZCore/foundation/data.h"
 
+#include <array>
+
 namespace QZCore {
 namespace {
 
@@ -8,10 +10,15 @@ bool isHexDigit(char16_t unit) {
            (unit >= u'A' && unit <= u'F');
 }
 
-bool standsAsItIs(char16_t unit) {
-    constexpr StringView kEscaped = u" \"<>\\^`{|}";
-    return unit > 0x20 && unit < 0x7F && kEscaped.find(unit) == StringView::npos;
-}
+/// For each ASCII character, whether a URL may hold it as it is.
+constexpr auto kStandsAsItIs = [] {
+    std::array<bool, 0x80> table{};
+    for (std::size_t unit = 0x21; unit < 0x7F; ++unit) table[unit] = true;
+    for (const char16_t unit : StringView(u"\"<>\\^`{|}")) table[unit] = false;
+    return table;
+}();
+
+bool standsAsItIs(char16_t unit) { return unit < kStandsAsItIs.size() && kStandsAsItIs[unit]; }
 
 bool isEscape(StringView text, std::size_t at) {
     return text.size() - at >= 3 && isHexDigit(text[at + 1]) && isHexDigit(text[at + 2]);

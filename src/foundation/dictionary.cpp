@@ -1,5 +1,6 @@
 #include "QZCore/foundation/dictionary.h"
 
+#include <cstring>
 #include <utility>
 
 #include "foundation/hash.h"
@@ -11,7 +12,8 @@ constexpr std::size_t kSearchedOneByOne = 8;
 
 bool sameKey(const Value& stored, StringView key) {
     const String* text = stored.string();
-    return text != nullptr && *text == key;
+    return text != nullptr && text->size() == key.size() &&
+           std::memcmp(text->data(), key.data(), key.size() * sizeof(char16_t)) == 0;
 }
 
 bool sameKey(const Value& stored, const Value& key) {

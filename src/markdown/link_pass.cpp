@@ -5,6 +5,7 @@
 #include "markdown/image_attachment.h"
 #include "markdown/link_target.h"
 #include "markdown/passes.h"
+#include "richtext/attribute_names.h"
 
 namespace QZCore {
 namespace {
@@ -29,10 +30,10 @@ TextAttributes linkLook(const RenderingContext& context) {
     TextAttributes look;
     const auto color = colorForKey(context.preferences, u"Link Color");
     if (color && !color->isEqualByString(Color::clearColor())) {
-        look = look.withAttribute(NSForegroundColorAttributeName, Value::boxed(*color));
+        look = look.withAttribute(attributeNames().foregroundColor, Value::boxed(*color));
     }
     if (context.preferences.boolForKey(u"Link Underline", true)) {
-        look = look.withAttribute(NSUnderlineStyleAttributeName, 1);
+        look = look.withAttribute(attributeNames().underlineStyle, 1);
     }
     return look;
 }
@@ -70,7 +71,6 @@ void renderLinks(RenderingContext& context, const MarkdownExpression& expression
     if (matches.empty()) return;
     const Images images(context, matches);
     AddedAttributes look(linkLook(context), context.afterRendering());
-    const AttributeName linkName = NSLinkAttributeName;
     const StringView live = context.text.live();
     AddedAttributes added;
     context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
@@ -84,7 +84,7 @@ void renderLinks(RenderingContext& context, const MarkdownExpression& expression
                                                                         Value::boxed(*image))));
         }
         const Value link = linkForTarget(partOf(live, match.groups[1]));
-        added = AddedAttributes(look, {linkName, link});
+        added = AddedAttributes(look, {attributeNames().link, link});
         return MatchEdit::keep(match.groups[0], added);
     });
 }

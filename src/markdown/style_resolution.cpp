@@ -2,6 +2,7 @@
 #include <optional>
 
 #include "QZCore/markdown/style_sheet.h"
+#include "richtext/attribute_names.h"
 #include "richtext/font_families.h"
 
 namespace QZCore {
@@ -81,22 +82,24 @@ ParagraphStyle resolvedParagraphStyle(const Styles& styles) {
 TextAttributes fontAttributesWithDefaultStyle(const Dictionary* defaultStyle,
                                               const Dictionary* userStyle, const Font& baseFont) {
     const Styles styles(defaultStyle, userStyle);
+    const AttributeNames& names = attributeNames();
     std::vector<TextAttribute> attributes;
+    attributes.reserve(6);
     const auto add = [&attributes](AttributeName name, Value value) {
         attributes.push_back({name, std::move(value)});
     };
     if (const auto font = resolvedFont(styles, baseFont)) {
-        add(NSFontAttributeName, Value::boxed(*font));
+        add(names.font, Value::boxed(*font));
     }
     if (const auto color = Color::colorForString(styles.valueFor(kStyleFontColor))) {
-        add(NSForegroundColorAttributeName, Value::boxed(*color));
+        add(names.foregroundColor, Value::boxed(*color));
     }
     if (const auto color = Color::colorForString(styles.valueFor(kStyleBackgroundColor))) {
-        add(NSBackgroundColorAttributeName, Value::boxed(*color));
+        add(names.backgroundColor, Value::boxed(*color));
     }
-    if (styles.isOn(kStyleFontUnderline)) add(NSUnderlineStyleAttributeName, 1);
-    if (styles.isOn(kStyleFontStrikethrough)) add(NSStrikethroughStyleAttributeName, 1);
-    add(NSParagraphStyleAttributeName, Value::boxed(resolvedParagraphStyle(styles)));
+    if (styles.isOn(kStyleFontUnderline)) add(names.underlineStyle, 1);
+    if (styles.isOn(kStyleFontStrikethrough)) add(names.strikethroughStyle, 1);
+    add(names.paragraphStyle, Value::boxed(resolvedParagraphStyle(styles)));
     return TextAttributes(std::move(attributes));
 }
 

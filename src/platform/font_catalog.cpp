@@ -41,6 +41,13 @@ Current& current() {
 
 FontCatalog::~FontCatalog() = default;
 
+bool FontCatalog::showsAscii(const Font& font) const {
+    for (char32_t character = 0; character < 0x80; ++character) {
+        if (!showsCharacter(font, character)) return false;
+    }
+    return true;
+}
+
 std::size_t hashOf(const Font& font) {
     std::size_t seed = hashText(font.familyName);
     seed = hashCombine(seed, hashText(font.faceName));

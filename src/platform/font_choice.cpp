@@ -21,7 +21,7 @@ double usableFontSize(double size) {
 }
 
 bool needsNoGlyph(char32_t character) {
-    if (character >= 0x20 && character < 0x7F) return false;
+    if (character >= kFirstVisibleAscii && character <= kLastVisibleAscii) return false;
     const auto point = static_cast<UChar32>(character);
     constexpr std::uint32_t kNoGlyph = U_GC_CC_MASK | U_GC_CF_MASK | U_GC_ZL_MASK | U_GC_ZP_MASK;
     return (U_GET_GC_MASK(point) & kNoGlyph) != 0 || character == kAttachmentCharacter ||

@@ -18,6 +18,10 @@ namespace QZCore {
     return character < 0xD800 || (character > 0xDFFF && character <= 0x10FFFF);
 }
 
+/// The ASCII characters that are drawn by a glyph.
+inline constexpr char32_t kFirstVisibleAscii = 0x20;
+inline constexpr char32_t kLastVisibleAscii = 0x7E;
+
 /// Whether `character` is drawn by no glyph, so that every font shows it.
 [[nodiscard]] bool needsNoGlyph(char32_t character);
 

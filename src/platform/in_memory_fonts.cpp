@@ -56,6 +56,15 @@ public:
         return shows(familyOf(font), character);
     }
 
+    [[nodiscard]] bool showsAscii(const Font& font) const override {
+        const auto& coverage = familyOf(font).coverage;
+        const auto isWhole = [](const auto& bounds) {
+            return bounds.first <= kFirstVisibleAscii && bounds.second >= kLastVisibleAscii;
+        };
+        return coverage.empty() || std::ranges::any_of(coverage, isWhole) ||
+               FontCatalog::showsAscii(font);
+    }
+
     [[nodiscard]] std::optional<Font> substituteFor(const Font& font,
                                                     char32_t character) const override {
         if (showsCharacter(font, character)) return font;

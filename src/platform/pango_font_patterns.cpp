@@ -56,6 +56,17 @@ FontMember memberOf(const FcPattern* pattern, StringView family) {
 
 }  // namespace
 
+bool InstalledFace::coversAscii() const {
+    static const FcCharSet* const ascii = [] {
+        FcCharSet* characters = FcCharSetCreate();
+        for (char32_t c = kFirstVisibleAscii; c <= kLastVisibleAscii; ++c) {
+            FcCharSetAddChar(characters, c);
+        }
+        return characters;
+    }();
+    return coverage != nullptr && FcCharSetIsSubset(ascii, coverage) == FcTrue;
+}
+
 std::optional<FontFile> fontFileOf(const FcPattern* pattern) {
     std::string path = stringOf(pattern, FC_FILE);
     if (path.empty()) return std::nullopt;

@@ -61,6 +61,8 @@ struct InstalledFace {
         // Fontconfig drops the high bits of what is no character.
         return isCharacter(character) && FcCharSetHasChar(coverage, character) == FcTrue;
     }
+    /// Whether it has a glyph for every ASCII character that is drawn by one.
+    [[nodiscard]] bool coversAscii() const;
 };
 
 /// Whether text can be set in the font: an outline or colour font, and one

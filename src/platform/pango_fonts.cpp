@@ -78,6 +78,11 @@ public:
         return face != nullptr && face->covers(character);
     }
 
+    [[nodiscard]] bool showsAscii(const Font& font) const override {
+        const InstalledFace* face = faceFor(font);
+        return face != nullptr && face->coversAscii();
+    }
+
     [[nodiscard]] std::optional<Font> substituteFor(const Font& font,
                                                     char32_t character) const override {
         if (showsCharacter(font, character)) return font;

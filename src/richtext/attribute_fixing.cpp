@@ -4,6 +4,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include "richtext/attribute_names.h"
+
 namespace QZCore {
 
 bool paragraphEndsBefore(StringView text, std::size_t position) {
@@ -101,7 +103,7 @@ private:
     std::uint32_t at_ = 0;
     std::uint32_t openStyle_ = 0;  // attributes with the open paragraph's style
     std::unordered_map<std::uint64_t, std::uint32_t> withOpenStyle_;  // by both numbers
-    const AttributeName styleName_ = NSParagraphStyleAttributeName;
+    const AttributeName styleName_ = attributeNames().paragraphStyle;
     bool changed_ = false;
 };
 

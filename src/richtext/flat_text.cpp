@@ -35,11 +35,7 @@ void FlatTextAccess::replaceContents(RichText& text, FlatText contents) {
     text.noteEdit({0, text.length()}, contents.text.size());
     auto store = std::make_shared<RichText::Store>();
     store->setPalette(std::move(contents.palette));
-    std::uint32_t at = 0;
-    for (const FlatRun& run : contents.runs) {
-        store->appendNumbered(StringView(contents.text).substr(at, run.end - at), run.id);
-        at = run.end;
-    }
+    store->append(contents.text, contents.runs);
     store->finishBuilding();
     text.store_ = std::move(store);
 }

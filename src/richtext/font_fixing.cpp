@@ -1,4 +1,3 @@
-#include <array>
 #include <optional>
 #include <unordered_map>
 #include <utility>
@@ -6,6 +5,7 @@
 
 #include "QZCore/platform/fonts.h"
 #include "richtext/attribute_fixing.h"
+#include "richtext/attribute_names.h"
 
 namespace QZCore {
 namespace {
@@ -50,35 +50,24 @@ private:
 class Substitutes {
 public:
     Substitutes(std::uint32_t font, FontNumbers& fonts, const FontCatalog& catalog)
-        : font_(font), fonts_(fonts), catalog_(catalog) {
-        ascii_.fill(kUnknown);
-    }
+        : font_(font),
+          keepsAscii_(catalog.showsAscii(fonts.at(font))),
+          fonts_(fonts),
+          catalog_(catalog) {}
 
     [[nodiscard]] std::uint32_t font() const { return font_; }
 
-    std::uint32_t fontFor(char32_t character) {
-        std::uint32_t& known = character < ascii_.size()
-                                   ? ascii_[character]
-                                   : others_.try_emplace(character, kUnknown).first->second;
-        if (known == kUnknown) known = find(character);
-        return known;
-    }
-
     /// Whether all ASCII characters keep the font.
-    bool keepsAscii() {
-        if (!asciiChecked_) {
-            asciiChecked_ = true;
-            for (char32_t character = 0; character < ascii_.size(); ++character) {
-                keepsAscii_ &= fontFor(character) == font_;
-            }
-        }
-        return keepsAscii_;
+    [[nodiscard]] bool keepsAscii() const { return keepsAscii_; }
+
+    std::uint32_t fontFor(char32_t character) {
+        const auto [at, isNew] = found_.try_emplace(character, font_);
+        if (isNew) at->second = find(character);
+        return at->second;
     }
 
 private:
-    static constexpr std::uint32_t kUnknown = UINT32_MAX;
-
-    [[nodiscard]] std::uint32_t find(char32_t character) {
+    [[nodiscard]] std::uint32_t find(char32_t character) const {
         const Font& font = fonts_.at(font_);
         if (catalog_.showsCharacter(font, character)) return font_;
         const auto substitute = catalog_.substituteFor(font, character);
@@ -86,12 +75,10 @@ private:
     }
 
     std::uint32_t font_;
+    bool keepsAscii_;
     FontNumbers& fonts_;
     const FontCatalog& catalog_;
-    std::array<std::uint32_t, 0x80> ascii_;
-    std::unordered_map<char32_t, std::uint32_t> others_;
-    bool asciiChecked_ = false;
-    bool keepsAscii_ = true;
+    std::unordered_map<char32_t, std::uint32_t> found_;
 };
 
 /// The first position from `at` on, below `end`, whose unit is not ASCII.
@@ -169,7 +156,7 @@ private:
         if (isNew) {
             const TextAttributes before = text_.palette.at(id);
             at->second = text_.palette.idOf(
-                before.withAttribute(NSFontAttributeName, Value::boxed(fonts_.at(font))));
+                before.withAttribute(attributeNames().font, Value::boxed(fonts_.at(font))));
         }
         return at->second;
     }

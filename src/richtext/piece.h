@@ -26,6 +26,11 @@ public:
     /// How full pieces are made, so that edits find room.
     static constexpr std::size_t kFill = 3072;
 
+    Piece() = default;
+    /// Takes text and runs over.
+    Piece(String text, std::vector<PieceRun> runs)
+        : text_(std::move(text)), runs_(std::move(runs)) {}
+
     [[nodiscard]] const String& text() const { return text_; }
     [[nodiscard]] const std::vector<PieceRun>& runs() const { return runs_; }
     [[nodiscard]] std::size_t length() const { return text_.size(); }

@@ -43,6 +43,24 @@ void RichText::Store::appendNumbered(StringView text, std::uint32_t id) {
     }
 }
 
+void RichText::Store::append(StringView text, std::span<const FlatRun> runs) {
+    pieces_.reserve(pieces_.size() + text.size() / Piece::kFill + 1);
+    std::size_t run = 0;
+    for (std::size_t start = 0; start < text.size(); start += Piece::kFill) {
+        const StringView part = text.substr(start, Piece::kFill);
+        const std::size_t end = start + part.size();
+        std::vector<PieceRun> partRuns{{0, runs[run].id}};
+        for (; runs[run].end < end; ++run) {
+            const auto runStart = static_cast<std::uint32_t>(runs[run].end - start);
+            partRuns.push_back({runStart, runs[run + 1].id});
+        }
+        if (runs[run].end == end) ++run;
+        pieces_.push_back(std::make_shared<Piece>(String(part), std::move(partRuns)));
+        lengths_.push_back(static_cast<std::uint32_t>(part.size()));
+        length_ += part.size();
+    }
+}
+
 void RichText::Store::append(const Store& other, Range range) {
     if (range.length == 0) return;
     NumberMap numbers;

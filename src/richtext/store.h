@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "QZCore/richtext/rich_text.h"
 #include "richtext/attribute_palette.h"
+#include "richtext/flat_text.h"
 #include "richtext/number_map.h"
 #include "richtext/piece.h"
 
@@ -43,6 +45,8 @@ public:
     void setPalette(AttributePalette palette) { palette_ = std::move(palette); }
     /// Adds `text` with the numbered attributes `id` at the end.
     void appendNumbered(StringView text, std::uint32_t id);
+    /// Adds `text` with numbered runs, which partition it, at the end.
+    void append(StringView text, std::span<const FlatRun> runs);
     /// Is to be called once after building.
     void finishBuilding() { sumUp(); }
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <atomic>
-#include <iterator>
 #include <mutex>
 #include <unordered_set>
 #include <utility>
 
 #include "foundation/hash.h"
+#include "richtext/attribute_names.h"
 
 namespace QZCore {
 
@@ -47,20 +47,54 @@ const String& nameOf(const TextAttribute& entry) { return entry.name.text(); }
 /// Whether one may be stored in place of the other. Colours keep which fixed
 /// colour they are, although that does not count when they are compared.
 bool interchangeable(const Value& a, const Value& b) {
+    if (a.isIdentical(b)) return true;
     const Color* left = a.boxedValue<Color>();
     const Color* right = b.boxedValue<Color>();
     return left != nullptr && right != nullptr ? left->isIdenticalTo(*right) : a == b;
 }
 
-bool equalEntries(const std::vector<TextAttribute>& a, const std::vector<TextAttribute>& b) {
-    return std::ranges::equal(a, b, [](const TextAttribute& left, const TextAttribute& right) {
-        return left.name == right.name && interchangeable(left.value, right.value);
-    });
+bool equalEntries(const TextAttribute& a, const TextAttribute& b) {
+    return a.name == b.name && interchangeable(a.value, b.value);
 }
+
+/// The entries of a set that does not exist yet: those of another one with the
+/// entry of one name put in, replaced or taken out.
+class ChangedEntries {
+public:
+    ChangedEntries(const std::vector<TextAttribute>& before, const TextAttribute& change)
+        : before_(before), change_(change), adds_(!change.value.isAbsent()) {
+        while (at_ < before.size() && nameOf(before[at_]) < nameOf(change)) ++at_;
+        replaces_ = at_ < before.size() && before[at_].name == change.name;
+    }
+
+    [[nodiscard]] std::size_t size() const {
+        return before_.size() + (adds_ ? 1 : 0) - (replaces_ ? 1 : 0);
+    }
+
+    [[nodiscard]] const TextAttribute& operator[](std::size_t index) const {
+        if (index < at_) return before_[index];
+        if (adds_ && index == at_) return change_;
+        return before_[index - (adds_ ? 1 : 0) + (replaces_ ? 1 : 0)];
+    }
+
+    /// What the change adds to the hash of the set.
+    [[nodiscard]] std::size_t hashDifference() const {
+        return (adds_ ? hashShare(change_) : 0) - (replaces_ ? hashShare(before_[at_]) : 0);
+    }
+
+private:
+    const std::vector<TextAttribute>& before_;
+    const TextAttribute& change_;
+    bool adds_;
+    bool replaces_ = false;
+    std::size_t at_ = 0;
+};
 
 /// Sorted by name, the last of each name, without absent values.
 void normalise(std::vector<TextAttribute>& entries) {
-    std::ranges::stable_sort(entries, {}, nameOf);
+    if (!std::ranges::is_sorted(entries, {}, nameOf)) {
+        std::ranges::stable_sort(entries, {}, nameOf);
+    }
     std::vector<TextAttribute> kept;
     kept.reserve(entries.size());
     for (TextAttribute& entry : entries) {
@@ -81,16 +115,18 @@ struct TextAttributes::Table {
         return table;
     }
 
-    Node* nodeFor(std::vector<TextAttribute> entries, std::size_t hash) {
-        if (entries.empty()) return nullptr;
+    /// The set of `entries`, which are sorted and whose hash is `hash`. Takes
+    /// what is there; copies or moves the entries only into a new set.
+    template <class Entries>
+    Node* nodeFor(Entries&& entries, std::size_t hash) {
+        if (entries.size() == 0) return nullptr;
         const std::lock_guard lock(mutex_);
-        for (Node* node = bucketOf(hash); node != nullptr; node = node->next) {
-            if (node->hash != hash || !equalEntries(node->entries, entries)) continue;
-            node->references.fetch_add(1, std::memory_order_relaxed);
-            return node;
+        if (Node* known = find(entries, hash)) {
+            known->references.fetch_add(1, std::memory_order_relaxed);
+            return known;
         }
         if (++count_ > buckets_.size()) grow();
-        Node* node = make(std::move(entries), hash);
+        Node* node = make(listOf(std::forward<Entries>(entries)), hash);
         node->next = std::exchange(bucketOf(hash), node);
         return node;
     }
@@ -107,6 +143,29 @@ struct TextAttributes::Table {
     }
 
 private:
+    template <class Entries>
+    Node* find(const Entries& entries, std::size_t hash) {
+        for (Node* node = bucketOf(hash); node != nullptr; node = node->next) {
+            if (node->hash != hash || node->entries.size() != entries.size()) continue;
+            std::size_t equal = 0;
+            while (equal < entries.size() && equalEntries(node->entries[equal], entries[equal])) {
+                ++equal;
+            }
+            if (equal == entries.size()) return node;
+        }
+        return nullptr;
+    }
+
+    static std::vector<TextAttribute> listOf(std::vector<TextAttribute>&& entries) {
+        return std::move(entries);
+    }
+    static std::vector<TextAttribute> listOf(const ChangedEntries& entries) {
+        std::vector<TextAttribute> list;
+        list.reserve(entries.size());
+        for (std::size_t i = 0; i < entries.size(); ++i) list.push_back(entries[i]);
+        return list;
+    }
+
     static Node* make(std::vector<TextAttribute> entries, std::size_t hash) {
         auto* node = new Node;
         node->entries = std::move(entries);
@@ -116,22 +175,23 @@ private:
     }
 
     static void note(Node& node, const TextAttribute& entry) {
+        const AttributeNames& names = attributeNames();
         const Value& value = entry.value;
-        if (entry.name == NSFontAttributeName) {
+        if (entry.name == names.font) {
             node.font = value.boxedValue<Font>();
-        } else if (entry.name == NSForegroundColorAttributeName) {
+        } else if (entry.name == names.foregroundColor) {
             node.foregroundColor = value.boxedValue<Color>();
-        } else if (entry.name == NSBackgroundColorAttributeName) {
+        } else if (entry.name == names.backgroundColor) {
             node.backgroundColor = value.boxedValue<Color>();
-        } else if (entry.name == NSParagraphStyleAttributeName) {
+        } else if (entry.name == names.paragraphStyle) {
             node.paragraphStyle = value.boxedValue<ParagraphStyle>();
-        } else if (entry.name == NSAttachmentAttributeName) {
+        } else if (entry.name == names.attachment) {
             node.attachment = value.boxedValue<TextAttachment>();
-        } else if (entry.name == NSLinkAttributeName) {
+        } else if (entry.name == names.link) {
             node.link = &value;
-        } else if (entry.name == NSUnderlineStyleAttributeName) {
+        } else if (entry.name == names.underlineStyle) {
             node.underlineStyle = value.intValue();
-        } else if (entry.name == NSStrikethroughStyleAttributeName) {
+        } else if (entry.name == names.strikethroughStyle) {
             node.strikethroughStyle = value.intValue();
         }
     }
@@ -172,9 +232,6 @@ TextAttributes::TextAttributes(std::vector<TextAttribute> attributes) {
     const std::size_t hash = hashOfEntries(attributes);
     node_ = Table::shared().nodeFor(std::move(attributes), hash);
 }
-
-TextAttributes::TextAttributes(std::vector<TextAttribute> sorted, std::size_t hash)
-    : node_(Table::shared().nodeFor(std::move(sorted), hash)) {}
 
 TextAttributes::TextAttributes(const TextAttributes& other) noexcept : node_(other.node_) {
     if (node_ != nullptr) node_->references.fetch_add(1, std::memory_order_relaxed);
@@ -252,17 +309,10 @@ std::int32_t TextAttributes::strikethroughStyle() const {
 }
 
 TextAttributes TextAttributes::withAttribute(AttributeName name, const Value& value) const {
-    std::vector<TextAttribute> changed;
-    changed.reserve(entries().size() + 1);
-    changed.assign(entries().begin(), entries().end());
-    std::size_t hash = node_ == nullptr ? 0 : node_->hash;
-    auto at = std::ranges::lower_bound(changed, name.text(), {}, nameOf);
-    if (at != changed.end() && at->name == name) {
-        hash -= hashShare(*at);
-        at = changed.erase(at);
-    }
-    if (!value.isAbsent()) hash += hashShare(*changed.insert(at, {name, value}));
-    return TextAttributes(std::move(changed), hash);
+    const TextAttribute change{name, value};
+    const ChangedEntries changed(entries(), change);
+    const std::size_t before = node_ == nullptr ? 0 : node_->hash;
+    return TextAttributes(Table::shared().nodeFor(changed, before + changed.hashDifference()));
 }
 
 TextAttributes TextAttributes::withoutAttribute(StringView name) const {
@@ -274,11 +324,19 @@ TextAttributes TextAttributes::mergedWith(const TextAttributes& other) const {
     if (other.empty()) return *this;
     std::vector<TextAttribute> merged;
     merged.reserve(entries().size() + other.entries().size());
-    // Of two entries with the same name the union takes the first range's.
-    std::ranges::set_union(other.entries(), entries(), std::back_inserter(merged), {}, nameOf,
-                           nameOf);
-    const std::size_t hash = hashOfEntries(merged);
-    return TextAttributes(std::move(merged), hash);
+    std::size_t hash = node_->hash + other.node_->hash;
+    auto added = other.entries().begin();
+    const auto end = other.entries().end();
+    for (const TextAttribute& own : entries()) {
+        while (added != end && nameOf(*added) < nameOf(own)) merged.push_back(*added++);
+        if (added != end && added->name == own.name) {
+            hash -= hashShare(own);
+        } else {
+            merged.push_back(own);
+        }
+    }
+    merged.insert(merged.end(), added, end);
+    return TextAttributes(Table::shared().nodeFor(std::move(merged), hash));
 }
 
 TextAttributes TextAttributes::textAttributesByRemovingLinkAttributes() const {

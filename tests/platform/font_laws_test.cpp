@@ -189,6 +189,15 @@ TEST_CASE("a substitute shows the character, and no nearer font does") {
     }
 }
 
+TEST_CASE("a font shows ASCII when it shows every ASCII character") {
+    for (const auto& catalog : catalogs()) {
+        for (const Font& font : allFonts(*catalog, 10)) {
+            CAPTURE(font.faceName);
+            CHECK(catalog->showsAscii(font) == catalog->FontCatalog::showsAscii(font));
+        }
+    }
+}
+
 constexpr char32_t kShownByAll[] = {0x00,   0x09,   0x0A,   0x7F,   0xAD,   0x200D,
                                     0x2028, 0x202E, 0xFE0F, 0xFEFF, 0xFFFC, 0xE0061};
 constexpr char32_t kShownByNone[] = {0xD800, 0xDFFF, 0x110041, 0x1000041, 0xFFFFFFFF};

@@ -117,6 +117,10 @@ public:
     /// than to look the font's name up.
     [[nodiscard]] virtual bool showsCharacter(const Font& font, char32_t character) const = 0;
 
+    /// Whether `showsCharacter` holds for all ASCII characters. Asks for each
+    /// of them; a catalogue that can tell at once should.
+    [[nodiscard]] virtual bool showsAscii(const Font& font) const;
+
     /// A font of the same size, as near as possible in traits and weight, that
     /// shows `character`: `font` itself when it does; nothing when no
     /// installed font does.

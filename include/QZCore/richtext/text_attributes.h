@@ -188,7 +188,7 @@ private:
     struct Node;
     struct Table;
 
-    TextAttributes(std::vector<TextAttribute> sorted, std::size_t hash);
+    explicit TextAttributes(Node* node) : node_(node) {}
 
     Node* node_ = nullptr;  // null stands for the empty set
 };
