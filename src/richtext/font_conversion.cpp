@@ -1,24 +1,17 @@
-#include <cmath>
 #include <cstdlib>
 
 #include "QZCore/richtext/font_manager.h"
+#include "platform/font_choice.h"
 
 namespace QZCore {
 namespace {
 
 constexpr int kBoldWeight = 9;
-constexpr double kDefaultSize = 12;
-
-bool isUsableSize(double size) { return std::isfinite(size) && size > 0; }
-
-Font fontOf(const FontMember& member, StringView family, double size) {
-    return {String(family), member.uniqueName, size, member.traits, member.weight};
-}
 
 /// The member for which `distance` is least, the first of several; null when
 /// it is negative for all.
 template <class Distance>
-const FontMember* nearestMember(const std::vector<FontMember>& members, Distance distance) {
+const FontMember* leastDistantMember(const std::vector<FontMember>& members, Distance distance) {
     const FontMember* nearest = nullptr;
     int least = 0;
     for (const FontMember& member : members) {
@@ -50,12 +43,10 @@ bool FontManager::isFamilyInstalled(StringView family) const {
 }
 
 std::optional<Font> FontManager::fontNamed(StringView name, double size) const {
-    return catalog_->fontNamed(name, isUsableSize(size) ? size : kDefaultSize);
+    return catalog_->fontNamed(name, usableFontSize(size));
 }
 
-Font FontManager::userFont(double size) const {
-    return catalog_->userFont(isUsableSize(size) ? size : kDefaultSize);
-}
+Font FontManager::userFont(double size) const { return catalog_->userFont(usableFontSize(size)); }
 
 double FontManager::widthOfText(StringView text, const Font& font) const {
     return catalog_->widthOfText(text, font);
@@ -63,12 +54,9 @@ double FontManager::widthOfText(StringView text, const Font& font) const {
 
 Font FontManager::convertFontToFamily(const Font& font, StringView family) const {
     const std::vector<FontMember> members = catalog_->membersOfFamily(family);
-    const FontMember* nearest = nearestMember(members, [&font](const FontMember& member) {
-        constexpr int kOtherTraits = 100;
-        const int traits = member.traits == font.traits ? 0 : kOtherTraits;
-        return traits + std::abs(member.weight - font.weight);
-    });
-    return nearest == nullptr ? font : fontOf(*nearest, family, font.pointSize);
+    if (members.empty()) return font;
+    const FontMember& nearest = nearestMember(members, {font.traits, font.weight});
+    return fontOfMember(family, nearest, font.pointSize);
 }
 
 Font FontManager::convertFontToFace(const Font& font, StringView faceName) const {
@@ -77,7 +65,7 @@ Font FontManager::convertFontToFace(const Font& font, StringView faceName) const
 
 Font FontManager::convertFontToSize(const Font& font, double size) const {
     Font resized = font;
-    if (isUsableSize(size)) resized.pointSize = size;
+    if (usableFontSize(size) == size) resized.pointSize = size;
     return resized;
 }
 
@@ -89,19 +77,19 @@ Font FontManager::convertFontToHaveTrait(const Font& font, std::uint32_t traits)
         weight = (wanted & kFontBold) != 0 ? kBoldWeight : kFontRegularWeight;
     }
     const std::vector<FontMember> members = catalog_->membersOfFamily(font.familyName);
-    const FontMember* nearest = nearestMember(members, [&](const FontMember& member) {
+    const FontMember* nearest = leastDistantMember(members, [&](const FontMember& member) {
         return member.traits == wanted ? std::abs(member.weight - weight) : -1;
     });
-    return nearest == nullptr ? font : fontOf(*nearest, font.familyName, font.pointSize);
+    return nearest == nullptr ? font : fontOfMember(font.familyName, *nearest, font.pointSize);
 }
 
 Font FontManager::convertFontToLighterWeight(const Font& font) const {
     const std::vector<FontMember> members = catalog_->membersOfFamily(font.familyName);
-    const FontMember* lighter = nearestMember(members, [&font](const FontMember& member) {
+    const FontMember* lighter = leastDistantMember(members, [&font](const FontMember& member) {
         const bool sameSlant = ((member.traits ^ font.traits) & kFontItalic) == 0;
         return sameSlant && member.weight < font.weight ? font.weight - member.weight : -1;
     });
-    return lighter == nullptr ? font : fontOf(*lighter, font.familyName, font.pointSize);
+    return lighter == nullptr ? font : fontOfMember(font.familyName, *lighter, font.pointSize);
 }
 
 bool FontManager::canFont(const Font& font, std::uint32_t haveTrait) const {

@@ -7,11 +7,9 @@
 namespace QZCore {
 namespace {
 
-constexpr float kDefaultSize = 12.0F;
-
 float sizeFromStyle(const FontAttributes& style) {
     const Value* size = style.find(kQZFontAttributesSize);
-    return size == nullptr ? kDefaultSize : size->floatValue();
+    return size == nullptr ? static_cast<float>(kFontDefaultSize) : size->floatValue();
 }
 
 std::int32_t decorationFromStyle(const FontAttributes& style, StringView key) {
@@ -25,11 +23,11 @@ TextAttributes FontManager::fontAttributesFromStyle(const FontAttributes& style)
     const auto add = [&attributes](StringView name, Value value) {
         attributes.push_back({name, std::move(value)});
     };
-    if (const auto font = fontFromStyle(style)) add(NSFontAttributeName, Value::boxed(*font));
+    add(NSFontAttributeName, Value::boxed(fontFromStyle(style)));
     add(NSForegroundColorAttributeName, Value::boxed(colorFontAttributeFromStyle(style)));
     const auto background =
         Color::colorForString(style.objectForKey(kQZFontAttributesBackgroundColor));
-    if (background && !background->isEqualByString(Color::clearColor())) {
+    if (background && *background != Color::clearColor()) {
         add(NSBackgroundColorAttributeName, Value::boxed(*background));
     }
     add(NSUnderlineStyleAttributeName, decorationFromStyle(style, kQZFontAttributesUnderline));
@@ -45,16 +43,15 @@ std::optional<TextAttributes> FontManager::fontAttributesFromStyle(
     return fontAttributesFromStyle(*style);
 }
 
-std::optional<Font> FontManager::fontFromStyle(const FontAttributes& style) const {
+Font FontManager::fontFromStyle(const FontAttributes& style) const {
     const float size = sizeFromStyle(style);
-    std::optional<Font> font;
-    if (const Value* face = style.find(kQZFontAttributesFaceName)) {
-        font = fontNamed(face->stringValue(), size);
+    std::optional<Font> face;
+    if (const Value* name = style.find(kQZFontAttributesFaceName)) {
+        face = fontNamed(name->stringValue(), size);
     }
-    if (!font) font = fontWithStyledTraits(userFont(size), style);
+    const Font font = face ? *face : fontWithStyledTraits(userFont(size), style);
     const double minimum = Preferences::shared().doubleForKey(u"Style Font Size Min");
-    if (minimum > 0 && font->pointSize < minimum) font = convertFontToSize(*font, minimum);
-    return font;
+    return minimum > 0 && font.pointSize < minimum ? convertFontToSize(font, minimum) : font;
 }
 
 /// `font` in the family and with the traits of the style. Without a family the
@@ -105,7 +102,7 @@ FontAttributes FontManager::styleForAttributes(const TextAttributes& attributes)
         style.setObject(color->stringForColor(), kQZFontAttributesColor);
     }
     const Color* background = attributes.backgroundColor();
-    if (background != nullptr && !background->isEqualByString(Color::clearColor())) {
+    if (background != nullptr && *background != Color::clearColor()) {
         style.setObject(background->stringForColor(), kQZFontAttributesBackgroundColor);
     }
     style.setObject(attributes.objectForKey(NSUnderlineStyleAttributeName),

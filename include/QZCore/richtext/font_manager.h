@@ -19,7 +19,8 @@ namespace QZCore {
 /// Fonts and styles over one catalogue of installed fonts.
 class QZ_EXPORT FontManager {
 public:
-    /// A manager of the fonts of `catalog`.
+    /// A manager of the fonts of `catalog`; of the one that the library uses
+    /// when it is empty.
     explicit FontManager(std::shared_ptr<const FontCatalog> catalog);
 
     /// A manager of the catalogue that the library uses.
@@ -68,17 +69,23 @@ public:
 
     // ---- Stored styles ----
 
-    /// The attributes of a stored style: font (as far as one results),
-    /// foreground colour, underline, strikethrough and paragraph style always,
-    /// a background only when the style has one that is not clear. The shared
-    /// preference "Style Font Size Min" keeps fonts from getting smaller.
+    /// The attributes of a stored style: font, foreground colour, underline,
+    /// strikethrough and paragraph style always, a background only when the
+    /// style has one that is not the clear colour.
+    /// Bold and italic count only beside a family, and not beside a face that
+    /// is installed. The shared preference "Style Font Size Min" keeps fonts
+    /// from getting smaller. Values of another type are converted; what is then
+    /// unusable counts as absent.
     [[nodiscard]] TextAttributes fontAttributesFromStyle(const FontAttributes& style) const;
     /// The same; nothing for no style.
     [[nodiscard]] std::optional<TextAttributes> fontAttributesFromStyle(
         const std::optional<FontAttributes>& style) const;
-    /// The foreground colour of a stored style; black when it has none.
+    /// The foreground colour of a stored style; black when it has none, or one
+    /// that cannot be read.
     [[nodiscard]] Color colorFontAttributeFromStyle(const FontAttributes& style) const;
-    /// The paragraph style of a stored style.
+    /// The paragraph style of a stored style: the default one but for alignment
+    /// and line height. A number that is no alignment counts as natural, a line
+    /// height that is not finite as 0.
     [[nodiscard]] ParagraphStyle paragraphFontAttributeFromStyle(const FontAttributes& style) const;
     /// The stored style of attributes, each key only when there is something to
     /// store under it. Reading it back gives the same font (by its face name),
@@ -86,7 +93,7 @@ public:
     [[nodiscard]] FontAttributes styleForAttributes(const TextAttributes& attributes) const;
 
 private:
-    [[nodiscard]] std::optional<Font> fontFromStyle(const FontAttributes& style) const;
+    [[nodiscard]] Font fontFromStyle(const FontAttributes& style) const;
     [[nodiscard]] Font fontWithStyledTraits(Font font, const FontAttributes& style) const;
 
     std::shared_ptr<const FontCatalog> catalog_;
