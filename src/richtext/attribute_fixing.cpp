@@ -28,12 +28,12 @@ void fixAttachments(FlatText& text) {
             start = run.end;
             continue;
         }
-        const TextAttributes attributes = text.palette.at(run.id);
+        const std::uint32_t without =
+            text.palette.idOf(text.palette.at(run.id).withoutAttribute(NSAttachmentAttributeName));
         for (; start < run.end; ++start) {
             const bool keeps = text.text[start] == kAttachmentCharacter;
             changed |= !keeps;
-            const auto without = attributes.withoutAttribute(NSAttachmentAttributeName);
-            appendRun(fixed, start + 1, keeps ? run.id : text.palette.idOf(without));
+            appendRun(fixed, start + 1, keeps ? run.id : without);
         }
     }
     if (changed) text.runs = std::move(fixed);

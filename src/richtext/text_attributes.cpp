@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cmath>
 #include <mutex>
 #include <unordered_set>
 #include <utility>
@@ -29,11 +30,15 @@ struct TextAttributes::Node {
 
 namespace {
 
+bool isNaN(const Value& value) {
+    return value.kind() == ValueKind::Real && std::isnan(value.doubleValue());
+}
+
 /// What one attribute adds to the hash of a set. The hash is a sum, so that it
 /// follows from another set's when one attribute changes.
 std::size_t hashShare(const TextAttribute& entry) {
     const auto name = reinterpret_cast<std::uintptr_t>(&entry.name.text());  // stored once
-    return hashCombine(name, entry.value.hash());
+    return hashCombine(name, isNaN(entry.value) ? 0 : entry.value.hash());
 }
 
 std::size_t hashOfEntries(const std::vector<TextAttribute>& entries) {
@@ -45,9 +50,11 @@ std::size_t hashOfEntries(const std::vector<TextAttribute>& entries) {
 const String& nameOf(const TextAttribute& entry) { return entry.name.text(); }
 
 /// Whether one may be stored in place of the other. Colours keep which fixed
-/// colour they are, although that does not count when they are compared.
+/// colour they are, although that does not count when they are compared; and
+/// one not-a-number is as good as another.
 bool interchangeable(const Value& a, const Value& b) {
     if (a.isIdentical(b)) return true;
+    if (isNaN(a) && isNaN(b)) return true;
     const Color* left = a.boxedValue<Color>();
     const Color* right = b.boxedValue<Color>();
     return left != nullptr && right != nullptr ? left->isIdenticalTo(*right) : a == b;

@@ -1,5 +1,6 @@
 #include "QZCore/richtext/rich_text.h"
 
+#include <cmath>
 #include <random>
 #include <thread>
 
@@ -148,6 +149,7 @@ TEST_CASE("equal attribute sets are one, and sets that nobody has are forgotten"
           TextAttributes{{u"a", 1}, {u"b", Array{1, u"x"}}});
     CHECK(TextAttributes{{u"a", 1}, {u"a", 2}} == TextAttributes{{u"a", 2}});
     CHECK(TextAttributes{{u"a", Value()}}.empty());
+    CHECK(TextAttributes{{u"a", NAN}} == TextAttributes{{u"a", -NAN}});
     RichText text(String(5000, u'a'));
     for (int i = 0; i < 20000; ++i)
         text.addAttribute(u"n", i, {static_cast<std::size_t>(i) % 5000, 1});

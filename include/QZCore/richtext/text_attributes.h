@@ -169,7 +169,8 @@ public:
     // ---- Comparing ----
 
     /// Whether both hold equal values under the same names; of two colours
-    /// also whether they are the same fixed colour.
+    /// also whether they are the same fixed colour. A number that is not one
+    /// counts as equal to another such number.
     [[nodiscard]] bool operator==(const TextAttributes& other) const {
         return node_ == other.node_;
     }
