@@ -4,11 +4,12 @@
 
 namespace QZCore {
 
-String stringForRating(int rating, bool withHollowStars) {
-    constexpr int kMostStars = 5;
+String stringForRating(std::int64_t rating, bool withHollowStars) {
+    constexpr std::int64_t kMostStars = 5;
     constexpr char16_t kFilledStar = 0x2605;
     constexpr char16_t kHollowStar = 0x2606;
-    String stars(static_cast<std::size_t>(std::clamp(rating, 0, kMostStars)), kFilledStar);
+    String stars(static_cast<std::size_t>(std::clamp<std::int64_t>(rating, 0, kMostStars)),
+                 kFilledStar);
     if (withHollowStars) stars.resize(kMostStars, kHollowStar);
     return stars;
 }

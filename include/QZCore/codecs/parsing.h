@@ -43,7 +43,8 @@ namespace QZCore {
 /// The pieces of `text` between the matches of the regular expression
 /// `pattern`, the pieces before the first and after the last match included,
 /// empty ones too. A match of length 0 splits as any other. The whole text is
-/// the only piece when nothing matches or `pattern` is empty or not well-formed.
+/// the only piece when nothing matches or `pattern` is empty or not well-formed;
+/// matching has the bounds of platform/regex.h.
 [[nodiscard]] QZ_EXPORT std::vector<String> componentsSeparatedByPattern(StringView text,
                                                                          StringView pattern);
 
@@ -63,7 +64,7 @@ namespace QZCore {
 
 /// `rating` filled stars (U+2605), at most five and none for a rating below 1;
 /// then, when asked for, hollow stars (U+2606) up to five symbols in all.
-[[nodiscard]] QZ_EXPORT String stringForRating(int rating, bool withHollowStars);
+[[nodiscard]] QZ_EXPORT String stringForRating(std::int64_t rating, bool withHollowStars);
 
 /// `length` characters, each drawn with equal chance from the 62 ASCII letters
 /// and digits by the system's secure random source. Empty when the system has

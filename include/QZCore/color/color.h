@@ -154,15 +154,18 @@ public:
         return colorForValue(value);
     }
 
-    /// Reads the hex digits of `string`, and after a third comma an alpha; both
-    /// prefixes "#" and "rgba(" may be missing. Short forms are not expanded:
-    /// "#abc" is "#000abc". Of more than six digits the last six count, and
-    /// digits beyond the first 40 units do not count. Letters o read as zeros.
+    /// Reads the hex digits of `string`, and after a third comma an alpha, which
+    /// is 1 when there is none; both prefixes "#" and "rgba(" may be missing.
+    /// Commas, closing parentheses and white space between digits are skipped,
+    /// any other character ends them. Short forms are not expanded: "#abc" is
+    /// "#000abc". Of more than six digits the last six count, and digits beyond
+    /// the first 40 units do not count. Letters o read as zeros.
     [[nodiscard]] static Color colorForHexString(StringView string);
 
-    /// Reads "rgb(red,green,blue)" or "rgb(red,green,blue,alpha)" with decimal
-    /// components of 0 to 255, which are not clamped. Black when the string is
-    /// not of this form.
+    /// Reads "rgb(red,green,blue)" or "rgb(red,green,blue,alpha)" with integers
+    /// of 0 to 255, which are not clamped; a part without a number counts as 0,
+    /// and of five parts or more the fourth is no alpha. Black when the string
+    /// is not of this form.
     [[nodiscard]] static Color colorForRGBString(StringView string);
 
     /// Reads each string by `colorForString` and leaves out empty ones.
