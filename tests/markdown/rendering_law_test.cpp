@@ -1,0 +1,370 @@
+// Rendering against its rules, carried out one by one on the plainest form of a
+// text: expressions searched by the engine, matches edited from the last to the
+// first, one attribute set for each unit.
+#include <cstdlib>
+#include <random>
+#include <ranges>
+
+#include "QZCore/color.h"
+#include "QZCore/markdown.h"
+#include "QZCore/platform/images.h"
+#include "markdown/link_target.h"
+#include "support/font_scope.h"
+#include "support/markdown_settings.h"
+#include "support/printing.h"
+#include "support/rich_text_twin.h"
+#include "tools/qznote/runs_writer.h"
+
+namespace QZCore {
+namespace {
+
+using testing::MarkdownSettings;
+
+class PlainRendering {
+public:
+    PlainRendering(const RichText& text, const MarkdownSettings& settings)
+        : settings_(settings), styles_(settings.styles()) {
+        live_.replace({}, text);
+        searched_ = text.string();
+        for (const RegexMatch& escape : matchesOf(kMarkdownEscape)) {
+            searched_.replace(escape.range().location, 2, u"@@");
+        }
+        const Dictionary* body = styleNamed(u"body");
+        bodyFont_ = fontAt(0);
+        if (body == nullptr) return;
+        add(fontAttributesWithDefaultStyle(nullptr, body, bodyFont_), {0, searched_.size()});
+        bodyFont_ = fontAt(0);
+    }
+
+    RichText result() {
+        renderCode(kMarkdownCodeBlock, 1);
+        renderLinks();
+        renderCode(kMarkdownInlineCode, 0);
+        renderEmoji();
+        renderDelimiters(kMarkdownItalicAsterisk, 1, {{kStyleFontItalic, true}}, u"*");
+        renderDelimiters(kMarkdownItalicUnderscore, 1, {{kStyleFontItalic, true}}, u"*");
+        renderDelimiters(kMarkdownBold, 2, {{kStyleFontBold, true}}, u"**");
+        renderDelimiters(kMarkdownBoldItalic, 3, {{kStyleFontBold, true}, {kStyleFontItalic, true}},
+                         u"***");
+        renderLines(kMarkdownUnderline, NSUnderlineStyleAttributeName);
+        renderLines(kMarkdownStrikethrough, NSStrikethroughStyleAttributeName);
+        Dictionary highlight;
+        setColor(highlight,
+                 color(u"Markdown Highlight Color", Color::colorWithCalibratedRed(1, 1, 0, 0.4)),
+                 kStyleBackgroundColor);
+        for (const StringView key :
+             {kMarkdownHighlightEquals, kMarkdownHighlightCaret, kMarkdownHighlightColon}) {
+            renderDelimiters(key, 2, highlight, u"highlight");
+        }
+        renderQuotes();
+        renderHeaders();
+        return finished();
+    }
+
+private:
+    // ---- What every pass does ----
+
+    std::vector<RegexMatch> matchesOf(StringView key) const {
+        const MarkdownExpression* row = settings_.syntax().expressionForKey(key);
+        if (row == nullptr) return {};
+        return RegularExpression::compile(row->pattern(), row->options())
+            ->matchesInString(searched_);
+    }
+
+    template <class Edit>
+    void forEachMatchFromTheLast(StringView key, Edit edit) {
+        const std::vector<RegexMatch> matches = matchesOf(key);
+        for (auto match = matches.rbegin(); match != matches.rend(); ++match) {
+            const Range range = match->range();
+            if (range.length == 0) continue;
+            if (live_.attributes[range.location].find(kIgnoreBlockAttributeName)) continue;
+            edit(*match);
+        }
+    }
+
+    void erase(std::size_t from, std::size_t to) {
+        live_.replace({from, to - from}, u"");
+        searched_.erase(from, to - from);
+    }
+
+    void add(const TextAttributes& added, Range range) {
+        live_.change(range, [&](const TextAttributes& before) { return before.mergedWith(added); });
+    }
+
+    void keep(const RegexMatch& match, Range content, const TextAttributes& added) {
+        add(added, content);
+        erase(content.end(), match.range().end());
+        erase(match.range().location, content.location);
+    }
+
+    void replace(const RegexMatch& match, StringView with) {
+        live_.replace(match.range(), with);
+        searched_.replace(match.range().location, match.range().length, with);
+    }
+
+    Range within(const RegexMatch& match, std::size_t length) const {
+        return {match.range().location + length, match.range().length - 2 * length};
+    }
+
+    // ---- Styles and settings ----
+
+    const Dictionary* styleNamed(StringView name) const {
+        const Value* style = styles_.find(name);
+        return style == nullptr ? nullptr : style->dictionary();
+    }
+
+    Font fontAt(std::size_t index) const {
+        const Font* font = live_.attributes[index].font();
+        return font != nullptr ? *font : FontManager::shared().userFont(12);
+    }
+
+    TextAttributes resolved(const RegexMatch& match, const Dictionary& style,
+                            StringView userStyle) const {
+        const Font* font = live_.attributes[match.range().location].font();
+        return fontAttributesWithDefaultStyle(&style, styleNamed(userStyle),
+                                              font != nullptr ? *font : bodyFont_);
+    }
+
+    std::optional<Color> color(StringView key, std::optional<Color> otherwise = {}) const {
+        return colorForKey(settings_.preferences(), key, otherwise);
+    }
+
+    double number(StringView key, double otherwise) const {
+        return settings_.preferences().doubleForKey(key, otherwise);
+    }
+
+    TextAttributes keptFromLaterPasses(const TextAttributes& attributes) const {
+        if (!settings_.preferences().boolForKey(u"Markdown Use Ignore Block", true)) {
+            return attributes;
+        }
+        return attributes.withAttribute(kIgnoreBlockAttributeName, u"");
+    }
+
+    // ---- The passes ----
+
+    void renderCode(StringView key, std::size_t contentGroup) {
+        const bool isBlock = key == kMarkdownCodeBlock;
+        const String prefix = isBlock ? u"Markdown Code Block " : u"Markdown Inline Code ";
+        const Preferences& preferences = settings_.preferences();
+        Dictionary style{{kStyleFontFamily, preferences.stringForKey(prefix + u"Font", u"Menlo")},
+                         {kStyleBackgroundColor,
+                          preferences.stringForKey(prefix + u"Background Color", u"#f1f1f1")}};
+        setColor(style,
+                 isBlock ? color(prefix + u"Text Color", Color::textColor())
+                         : color(prefix + u"Text Color"),
+                 kStyleFontColor);
+        forEachMatchFromTheLast(key, [&](const RegexMatch& match) {
+            keep(match, isBlock ? match.group(contentGroup) : within(match, 1),
+                 keptFromLaterPasses(resolved(match, style, isBlock ? u"```" : u"`")));
+        });
+    }
+
+    void renderLinks() {
+        TextAttributes look;
+        const auto linkColor = color(u"Link Color");
+        if (linkColor && !linkColor->isEqualByString(Color::clearColor())) {
+            look = look.withAttribute(NSForegroundColorAttributeName, Value::boxed(*linkColor));
+        }
+        if (settings_.preferences().boolForKey(u"Link Underline", true)) {
+            look = look.withAttribute(NSUnderlineStyleAttributeName, 1);
+        }
+        forEachMatchFromTheLast(kMarkdownLink, [&](const RegexMatch& match) {
+            if (match.groups.size() < 3) return;
+            const Range text = match.group(1);
+            const StringView source = live_.text;
+            const StringView target = source.substr(match.group(2).location, match.group(2).length);
+            if (source[match.range().location] == u'!') {
+                const String alternative =
+                    withoutEscapes(source.substr(text.location, text.length));
+                const TextAttachment picture{std::make_shared<const Image>(cautionImage()), 32, 32,
+                                             alternative.substr(0, alternative.rfind(u'|')),
+                                             withoutEscapes(target)};
+                const std::size_t at = match.range().location;
+                replace(match, StringView(&kAttachmentCharacter, 1));
+                add({{NSAttachmentAttributeName, Value::boxed(picture)}}, {at, 1});
+            } else {
+                keep(match, text,
+                     keptFromLaterPasses(
+                         look.withAttribute(NSLinkAttributeName, linkForTarget(target))));
+            }
+        });
+    }
+
+    void renderEmoji() {
+        forEachMatchFromTheLast(kMarkdownEmoji, [&](const RegexMatch& match) {
+            const Range code = match.group(1);
+            const auto emoji =
+                emojiForShortcode(StringView(live_.text).substr(code.location, code.length));
+            if (emoji) replace(match, *emoji);
+        });
+    }
+
+    void renderDelimiters(StringView key, std::size_t length, const Dictionary& style,
+                          StringView userStyle) {
+        forEachMatchFromTheLast(key, [&](const RegexMatch& match) {
+            keep(match, within(match, length), resolved(match, style, userStyle));
+        });
+    }
+
+    void renderLines(StringView key, AttributeName name) {
+        forEachMatchFromTheLast(key, [&](const RegexMatch& match) {
+            keep(match, within(match, 2), {{name, 1}});
+        });
+    }
+
+    void renderQuotes() {
+        Dictionary style{
+            {kStyleFirstLineHeadIndent, number(u"Markdown Block Quote First Line Head Indent", 18)},
+            {kStyleHeadIndent, number(u"Markdown Block Quote Head Indent", 18)},
+            {kStyleTailIndent, number(u"Markdown Block Quote Tail Indent", -18)},
+            {kStyleParagraphSpacingAfter,
+             number(u"Markdown Block Quote Paragraph Spacing After", 10)}};
+        setColor(style, color(u"Markdown Block Quote Text Color", Color::textColor()),
+                 kStyleFontColor);
+        forEachMatchFromTheLast(kMarkdownBlockQuote, [&](const RegexMatch& match) {
+            keep(match, match.group(2), resolved(match, style, u">"));
+        });
+    }
+
+    std::int32_t headerSize(std::size_t level) const {
+        const String sizes = settings_.preferences().stringForKey(u"Markdown Header Sizes",
+                                                                  u"32, 24, 18, 16, 13, 11");
+        std::vector<String> pieces(1);
+        for (const char16_t unit : sizes) {
+            if (unit == u',')
+                pieces.emplace_back();
+            else
+                pieces.back().push_back(unit);
+        }
+        return level <= pieces.size() ? intValue(pieces[level - 1])
+                                      : static_cast<std::int32_t>(bodyFont_.pointSize);
+    }
+
+    void renderHeaders() {
+        Dictionary style{
+            {kStyleFontBold, settings_.preferences().boolForKey(u"Markdown Header Bold", true)},
+            {kStyleLineHeightMultiple, number(u"Markdown Header Line Height Multiple", 1)},
+            {kStyleLineSpacing, number(u"Markdown Header Line Spacing", 0)},
+            {kStyleParagraphSpacingBefore, number(u"Markdown Header Paragraph Spacing Before", 5)},
+            {kStyleParagraphSpacingAfter, number(u"Markdown Header Paragraph Spacing After", 2)}};
+        setColor(style, color(u"Markdown Header Text Color", Color::textColor()), kStyleFontColor);
+        forEachMatchFromTheLast(kMarkdownHeaders, [&](const RegexMatch& match) {
+            const std::size_t level = match.group(1).length;
+            style.setObject(headerSize(level), kStyleFontSize);
+            keep(match, match.group(2), resolved(match, style, String(level, u'#')));
+        });
+    }
+
+    // ---- The end ----
+
+    RichText finished() {
+        searched_ = live_.text;
+        const std::vector<RegexMatch> escapes = matchesOf(kMarkdownEscape);
+        for (auto escape = escapes.rbegin(); escape != escapes.rend(); ++escape) {
+            erase(escape->range().location, escape->range().location + 1);
+        }
+        RichText text(live_.text);
+        for (std::size_t i = 0; i < live_.text.size(); ++i) {
+            text.setAttributes(live_.attributes[i].withoutAttribute(kIgnoreBlockAttributeName),
+                               {i, 1});
+        }
+        text.fixAttributesInRange({0, text.length()});
+        return text;
+    }
+
+    const MarkdownSettings& settings_;
+    const StyleSheet styles_;
+    testing::RichTextTwin live_;
+    String searched_;
+    Font bodyFont_;
+};
+
+// ---- Texts and settings -------------------------------------------------------
+
+constexpr StringView kPieces[] = {
+    u"*",       u"*",          u"**",     u"***",    u"_",      u"__",     u"___",
+    u"~~",      u"==",         u"^^",     u"::",     u"`",      u"`",      u"``",
+    u"```",     u"```\n",      u"\n```",  u"\n",     u"\n",     u"\n# ",   u"\n### ",
+    u"\n>",     u"\n> ",       u"[",      u"](",     u"](c)",   u"[a](b)", u"![a",
+    u"!",       u"a",          u"b",      u"a",      u" ",      u"\\",     u"\\*",
+    u"\\_",     u"\\[",        u"@",      u":a:",    u":",      u"\r\n",   u"smile",
+    u":heart:", u"\U0001F600", u"\xD83D", u"\xDE00", u"\u2028", u"\u0301", u"<a|b>",
+};
+
+constexpr const char* kSettings[] = {
+    "",
+    R"({"styles": {"body": {"font-family": "Serif", "font-size": 15.5, "head-indent": 3}}})",
+    R"({"styles": {"*": {"font-family": "None,Mono"}, "**": {"font-size": 20, "font-bold": false},
+        "***": {"font-underline": true}, "`": {"font-color": "red"}, "```": {"font-size": 9},
+        "highlight": {"background-color": "clear"}, ">": {"font-italic": true},
+        "#": {"font-size": 40}, "###": {"paragraph-spacing-after": 9}}})",
+    R"({"preferences": {"Markdown Use Ignore Block": false, "Markdown Header Sizes": "20,x",
+        "Markdown Support Intraword Underscore Italic": true, "Link Color": "blue",
+        "Markdown Regex Header No Space": true, "Markdown Header Bold": false}})",
+};
+
+class NoteMaker {
+public:
+    RichText next() {
+        String plain;
+        for (std::size_t pieces = 1 + below(30); pieces > 0; --pieces) {
+            plain += kPieces[below(std::size(kPieces))];
+        }
+        RichText text(plain, looks_[below(2)]);
+        for (std::size_t stretches = below(4); stretches > 0; --stretches) {
+            text.addAttributes(looks_[below(std::size(looks_))], {below(plain.size()), below(9)});
+        }
+        return text;
+    }
+
+private:
+    std::size_t below(std::size_t bound) { return random_() % bound; }
+
+    static TextAttributes fontLook(StringView name, double size) {
+        const Font font = *FontManager::shared().fontNamed(name, size);
+        return {{NSFontAttributeName, Value::boxed(font)}};
+    }
+
+    const TextAttributes looks_[6] = {
+        {},
+        fontLook(u"Sans-Regular", 13),
+        fontLook(u"Mono-BoldItalic", 20.5),
+        {{NSForegroundColorAttributeName, Value::boxed(Color::colorWithCalibratedRed(1, 0, 0, 1))}},
+        {{NSParagraphStyleAttributeName, Value::boxed(ParagraphStyle{.headIndent = 5})}},
+        {{kIgnoreBlockAttributeName, u""}},
+    };
+    std::mt19937 random_{20260102};
+};
+
+// QZCORE_EQUALITY_TEXTS asks for more texts than a quick run has time for.
+int numberOfTexts() {
+    const char* asked = std::getenv("QZCORE_EQUALITY_TEXTS");
+    return asked == nullptr ? 1500 : std::atoi(asked);
+}
+
+}  // namespace
+
+TEST_CASE("a note renders as its rules say when they are carried out one by one") {
+    const testing::MadeUpFonts fonts;
+    NoteMaker notes;
+    for (const char* json : kSettings) {
+        CAPTURE(json);
+        const MarkdownSettings settings(json);
+        int changed = 0;
+        for (int i = numberOfTexts(); i > 0; --i) {
+            const RichText note = notes.next();
+            const RichText expected = PlainRendering(note, settings).result();
+            RichText rendered = note;
+            renderContainedMarkdownWithStyles(rendered, settings.styles(), settings.syntax(),
+                                              settings.preferences());
+            changed += rendered.string() == note.string() ? 0 : 1;
+            if (rendered == expected) continue;
+            CAPTURE(qznote::runLines(note));
+            CHECK(qznote::runLines(rendered) == qznote::runLines(expected));
+            REQUIRE(rendered == expected);
+        }
+        CHECK(changed > numberOfTexts() / 2);
+    }
+}
+
+}  // namespace QZCore
