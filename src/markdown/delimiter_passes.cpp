@@ -49,10 +49,9 @@ void renderBoldItalic(RenderingContext& context, const MarkdownExpression& expre
 void renderHighlight(RenderingContext& context, const MarkdownExpression& expression) {
     const Color translucentYellow = Color::colorWithCalibratedRed(1, 1, 0, 0.4);
     Dictionary style;
-    if (const auto color =
-            colorForKey(context.preferences, u"Markdown Highlight Color", translucentYellow)) {
-        style.setObject(color->stringForColor(), kStyleBackgroundColor);
-    }
+    setColor(style,
+             colorForKey(context.preferences, u"Markdown Highlight Color", translucentYellow),
+             kStyleBackgroundColor);
     renderStyled(context, expression, 2, {context, std::move(style), u"highlight"});
 }
 
@@ -63,9 +62,7 @@ void renderInlineCode(RenderingContext& context, const MarkdownExpression& expre
         {kStyleBackgroundColor,
          preferences.stringForKey(u"Markdown Inline Code Background Color", u"#f1f1f1")},
     };
-    if (const auto color = colorForKey(preferences, u"Markdown Inline Code Text Color")) {
-        style.setObject(color->stringForColor(), kStyleFontColor);
-    }
+    setColor(style, colorForKey(preferences, u"Markdown Inline Code Text Color"), kStyleFontColor);
     // A run of two or three backticks loses only its outermost. Deliberate:
     // the inner ones show that the code was quoted with more than one.
     renderStyled(context, expression, 1,

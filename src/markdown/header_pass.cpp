@@ -25,10 +25,7 @@ Dictionary headerStyle(const RenderingContext& context, std::size_t level) {
     const auto number = [&](StringView key, double otherwise) {
         return preferences.doubleForKey(key, otherwise);
     };
-    const Color color =
-        colorForKey(preferences, u"Markdown Header Text Color").value_or(Color::textColor());
-    return {
-        {kStyleFontColor, color.stringForColor()},
+    Dictionary style{
         {kStyleFontSize, headerSize(context, level)},
         {kStyleFontBold, preferences.boolForKey(u"Markdown Header Bold", true)},
         {kStyleLineHeightMultiple, number(u"Markdown Header Line Height Multiple", 1)},
@@ -36,6 +33,9 @@ Dictionary headerStyle(const RenderingContext& context, std::size_t level) {
         {kStyleParagraphSpacingBefore, number(u"Markdown Header Paragraph Spacing Before", 5)},
         {kStyleParagraphSpacingAfter, number(u"Markdown Header Paragraph Spacing After", 2)},
     };
+    setColor(style, colorForKey(preferences, u"Markdown Header Text Color", Color::textColor()),
+             kStyleFontColor);
+    return style;
 }
 
 }  // namespace

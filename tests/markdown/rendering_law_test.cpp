@@ -301,6 +301,10 @@ constexpr const char* kSettings[] = {
     R"({"preferences": {"Markdown Use Ignore Block": false, "Markdown Header Sizes": "20,x",
         "Markdown Support Intraword Underscore Italic": true, "Link Color": "blue",
         "Markdown Regex Header No Space": true, "Markdown Header Bold": false}})",
+    R"({"preferences": {"Markdown Highlight Color": "", "Markdown Header Text Color": "",
+        "Markdown Block Quote Text Color": "", "Markdown Code Block Text Color": "",
+        "Markdown Inline Code Text Color": "green", "Link Underline": false,
+        "Markdown Header Sizes": "", "Markdown Support Bold": false}})",
 };
 
 class NoteMaker {
