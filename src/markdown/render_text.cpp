@@ -133,6 +133,9 @@ void RenderText::addEverywhere(const TextAttributes& attributes) {
 const std::vector<SpanMatch>& RenderText::find(const MarkdownExpression& expression) {
     matches_.clear();
     findMatches(expression, searchCopy(), matches_);
+    // A pattern of the user's own may match without taking a character.
+    std::erase_if(matches_,
+                  [](const SpanMatch& match) { return match.whole.start == match.whole.end; });
     return matches_;
 }
 

@@ -92,7 +92,7 @@ public:
     /// Adds attributes to the whole text.
     void addEverywhere(const TextAttributes& added);
 
-    /// Finds all matches of a pass in the search copy.
+    /// Finds all matches of a pass in the search copy, but for empty ones.
     [[nodiscard]] const std::vector<SpanMatch>& find(const MarkdownExpression& expression);
 
     /// For each match found last, whether it is marked to be ignored.

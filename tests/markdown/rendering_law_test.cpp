@@ -169,8 +169,8 @@ private:
             look = look.withAttribute(NSUnderlineStyleAttributeName, 1);
         }
         forEachMatchFromTheLast(kMarkdownLink, [&](const RegexMatch& match) {
-            if (match.groups.size() < 3) return;
             const Range text = match.group(1);
+            if (text.length == 0 || match.group(2).length == 0) return;
             const StringView source = live_.text;
             const StringView target = source.substr(match.group(2).location, match.group(2).length);
             if (source[match.range().location] == u'!') {
@@ -305,6 +305,8 @@ constexpr const char* kSettings[] = {
         "Markdown Block Quote Text Color": "", "Markdown Code Block Text Color": "",
         "Markdown Inline Code Text Color": "green", "Link Underline": false,
         "Markdown Header Sizes": "", "Markdown Support Bold": false}})",
+    R"({"preferences": {"Markdown RegEx Link": "<?(a*)[|]?(b*)>?"}})",
+    R"({"preferences": {"Markdown RegEx Link": "(?=a)|$"}})",
 };
 
 class NoteMaker {
