@@ -10,13 +10,14 @@
 namespace QZCore {
 namespace {
 
+bool isWithin(SpanMatch::Span group, SpanMatch::Span whole) {
+    return group.start >= whole.start && group.start < group.end && group.end <= whole.end;
+}
+
 /// A user's own link pattern may capture less than a text and a target, or look
 /// beyond its match. Such a match stays as it is written.
 bool capturesTextAndTarget(const SpanMatch& match) {
-    const SpanMatch::Span text = match.groups[0];
-    const SpanMatch::Span target = match.groups[1];
-    return text.start >= match.whole.start && text.end <= match.whole.end &&
-           text.start < text.end && target.start != kNoPosition && target.start < target.end;
+    return isWithin(match.groups[0], match.whole) && isWithin(match.groups[1], match.whole);
 }
 
 bool isImage(StringView text, const SpanMatch& match) { return text[match.whole.start] == u'!'; }

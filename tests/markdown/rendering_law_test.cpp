@@ -170,7 +170,12 @@ private:
         }
         forEachMatchFromTheLast(kMarkdownLink, [&](const RegexMatch& match) {
             const Range text = match.group(1);
-            if (text.length == 0 || match.group(2).length == 0) return;
+            for (const Range group : {text, match.group(2)}) {
+                if (group.length == 0 || group.location < match.range().location ||
+                    group.end() > match.range().end()) {
+                    return;
+                }
+            }
             const StringView source = live_.text;
             const StringView target = source.substr(match.group(2).location, match.group(2).length);
             if (source[match.range().location] == u'!') {
@@ -306,7 +311,7 @@ constexpr const char* kSettings[] = {
         "Markdown Inline Code Text Color": "green", "Link Underline": false,
         "Markdown Header Sizes": "", "Markdown Support Bold": false}})",
     R"({"preferences": {"Markdown RegEx Link": "<?(a*)[|]?(b*)>?"}})",
-    R"({"preferences": {"Markdown RegEx Link": "(?=a)|$"}})",
+    R"({"preferences": {"Markdown RegEx Link": "<(a)(?=[|](b))|(?=a)|$"}})",
 };
 
 class NoteMaker {
