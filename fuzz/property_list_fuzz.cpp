@@ -1,18 +1,9 @@
 // What is read can be written, and what is written reads back as the same.
 
-#include <cstdlib>
-
 #include "QZCore/foundation/property_list.h"
+#include "require.h"
 
 using namespace QZCore;
-
-namespace {
-
-void require(bool holds) {
-    if (!holds) std::abort();
-}
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const PropertyListResult read = readPropertyList({data, size});
