@@ -1,45 +1,16 @@
 #include "codecs/percent.h"
 
 #include <algorithm>
-#include <array>
 
 #include "QZCore/codecs/transforming.h"
-#include "codecs/hexadecimal.h"
+#include "foundation/hexadecimal.h"
+#include "foundation/percent_encoding.h"
 
 namespace QZCore {
 namespace {
 
-using ByteSet = std::array<bool, 256>;
-
-/// The unreserved characters of RFC 3986 and `others`.
-constexpr ByteSet unreservedAnd(std::string_view others) {
-    ByteSet set{};
-    for (char c = 'A'; c <= 'Z'; ++c) set[static_cast<std::uint8_t>(c)] = true;
-    for (char c = 'a'; c <= 'z'; ++c) set[static_cast<std::uint8_t>(c)] = true;
-    for (char c = '0'; c <= '9'; ++c) set[static_cast<std::uint8_t>(c)] = true;
-    for (const char c : std::string_view("-._~")) set[static_cast<std::uint8_t>(c)] = true;
-    for (const char c : others) set[static_cast<std::uint8_t>(c)] = true;
-    return set;
-}
-
-constexpr ByteSet kPathBytes = unreservedAnd("!$&'()*+,;=:@/");
-
 // What a query allows, less the delimiters that give a query its form.
-constexpr ByteSet kQueryValueBytes = unreservedAnd("/?");
-
-String percentEncoded(StringView text, const ByteSet& allowed) {
-    String result;
-    for (const char character : toUTF8(text)) {
-        const auto byte = static_cast<std::uint8_t>(character);
-        if (allowed[byte]) {
-            result.push_back(byte);
-        } else {
-            result.push_back(u'%');
-            appendHexByte(result, byte);
-        }
-    }
-    return result;
-}
+constexpr PlainBytes kQueryValueBytes = unreservedAnd("/?");
 
 std::optional<String> fromValidUTF8(std::string_view bytes) {
     String text = fromUTF8(bytes);
@@ -77,8 +48,10 @@ std::optional<String> percentDecoded(StringView text) {
     return result;
 }
 
-String percentEncodePath(StringView text) { return percentEncoded(text, kPathBytes); }
+String percentEncodePath(StringView text) { return percentEncoded(toUTF8(text), kPathBytes); }
 
-String percentEncodeQuery(StringView text) { return percentEncoded(text, kQueryValueBytes); }
+String percentEncodeQuery(StringView text) {
+    return percentEncoded(toUTF8(text), kQueryValueBytes);
+}
 
 }  // namespace QZCore

@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "QZCore/codecs/transforming.h"
-#include "codecs/hexadecimal.h"
 #include "codecs/literal_search.h"
 #include "codecs/percent.h"
+#include "foundation/hexadecimal.h"
 
 namespace QZCore {
 

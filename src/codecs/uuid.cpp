@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "codecs/hexadecimal.h"
 #include "foundation/base64.h"
+#include "foundation/hexadecimal.h"
 
 namespace QZCore {
 namespace {

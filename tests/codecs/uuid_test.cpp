@@ -2,7 +2,7 @@
 
 #include <random>
 
-#include "codecs/hexadecimal.h"
+#include "foundation/hexadecimal.h"
 #include "support/exact_copy.h"
 #include "support/printing.h"
 
