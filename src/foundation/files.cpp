@@ -66,8 +66,9 @@ bool flushFolder(const fs::path& folder) {
 }  // namespace
 
 std::optional<Data> readFile(const std::string& path, std::size_t limit) {
-    const OpenFile file(path, O_RDONLY);
-    if (!file.isOpen()) return std::nullopt;
+    // Opening a pipe would wait for a writer, and a device may have no end.
+    const OpenFile file(path, O_RDONLY | O_NONBLOCK);
+    if (!file.isPlain()) return std::nullopt;
     Data bytes;
     std::array<std::uint8_t, 65536> buffer;
     while (const auto count = file.read(buffer)) {

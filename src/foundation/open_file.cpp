@@ -1,6 +1,7 @@
 #include "foundation/open_file.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -24,6 +25,11 @@ OpenFile::OpenFile(const std::string& path, int flags, mode_t mode)
 
 OpenFile::~OpenFile() {
     if (isOpen()) ::close(descriptor_);
+}
+
+bool OpenFile::isPlain() const {
+    struct ::stat standing = {};
+    return ::fstat(descriptor_, &standing) == 0 && S_ISREG(standing.st_mode);
 }
 
 std::optional<std::size_t> OpenFile::read(std::span<std::uint8_t> buffer) const {

@@ -23,6 +23,9 @@ public:
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int descriptor() const { return descriptor_; }
 
+    /// Whether it is a plain file: no folder, pipe or device.
+    [[nodiscard]] bool isPlain() const;
+
     /// The next bytes into `buffer`: how many, 0 at the end, nothing when they
     /// cannot be read.
     [[nodiscard]] std::optional<std::size_t> read(std::span<std::uint8_t> buffer) const;

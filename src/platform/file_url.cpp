@@ -1,7 +1,6 @@
 #include "platform/file_url.h"
 
 #include <charconv>
-#include <filesystem>
 
 #include "QZCore/foundation/files.h"
 
@@ -48,9 +47,6 @@ std::optional<Data> readFileUrl(std::string_view url, std::size_t limit) {
     if (!encoded) return std::nullopt;
     const std::optional<std::string> path = percentDecoded(*encoded);
     if (!path) return std::nullopt;
-    // Opening a pipe would wait for a writer, and a device has no end.
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(*path, error)) return std::nullopt;
     return readFile(*path, limit);
 }
 

@@ -40,6 +40,9 @@ TEST_CASE("a file reads back as it was written, and nothing else stays behind") 
     CHECK_FALSE(readFile(folder / "file", large.size() - 1).has_value());
     CHECK_FALSE(readFile(folder / "missing").has_value());
     CHECK_FALSE(readFile(folder / "").has_value());
+    REQUIRE(::mkfifo((folder / "pipe that nobody writes to").c_str(), 0600) == 0);
+    CHECK_FALSE(readFile(folder / "pipe that nobody writes to").has_value());
+    CHECK_FALSE(readFile("/dev/null").has_value());
     const std::string longName(255, 'n');
     CHECK(write(folder / longName, "long"));
     CHECK(contentOf(folder / longName) == "long");

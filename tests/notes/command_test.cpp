@@ -54,6 +54,7 @@ TEST_CASE("the command reports what fails in one line and an exit code") {
         {"printf '\\357\\273\\277a\\r\\n**b**' | qznote render - --to=text", 0, "a\nb"},
         {"printf '**a**' | qznote render --to ansi", 0, "\x1b[1ma\x1b[0m\n"},
         {"printf '![a](http://a.example/b.png)' | qznote render", 0, "[a 32x32]"},
+        {"mkfifo pipe; (printf '**a**' > pipe &) && qznote render pipe", 0, "a"},
         {"qznote render no-such-note.md", 1, "qznote: cannot read no-such-note.md\n"},
         {"qznote render .", 1, "qznote: cannot read .\n"},
         {"echo a | qznote render --style no-such-sheet", 1, "qznote: cannot read no-such-sheet\n"},

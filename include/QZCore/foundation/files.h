@@ -11,7 +11,8 @@
 namespace QZCore {
 
 /// The bytes of the file at `path` (in the file system's own encoding);
-/// nothing when it cannot be read, is a folder, or is longer than `limit`.
+/// nothing when it cannot be read, is longer than `limit`, or is no plain file.
+/// Never waits for one: a named pipe, a device or a folder is refused.
 [[nodiscard]] QZ_EXPORT std::optional<Data> readFile(const std::string& path,
                                                      std::size_t limit = SIZE_MAX);
 
