@@ -1,5 +1,7 @@
 #include "markdown/image_attachment.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include "QZCore/foundation/log.h"
@@ -8,7 +10,16 @@
 namespace QZCore {
 namespace {
 
-constexpr std::int64_t kDefaultTimeout = 15;
+using Clock = std::chrono::steady_clock;
+
+/// Bounds the wait for one image, however often it is asked for.
+double timeoutOf(const Preferences& preferences) {
+    constexpr std::int64_t kDefault = 15;
+    constexpr double kLongest = 3600;
+    const auto seconds =
+        static_cast<double>(preferences.integerForKey(u"Markdown Image Timeout", kDefault));
+    return seconds > 0 ? std::min(seconds, kLongest) : kLongest;
+}
 
 /// A width and a height, each 0 where it was not named.
 struct NamedSize {
@@ -52,12 +63,10 @@ String cacheLine(StringView name, std::uint64_t used, std::uint64_t capacity) {
 }  // namespace
 
 ImageFetch::ImageFetch(const Preferences& preferences)
-    : logsCache_(preferences.boolForKey(u"URLCache Log")), loader_(sharedUrlLoader()) {
-    request_.cachePolicy =
-        static_cast<UrlCachePolicy>(preferences.integerForKey(u"Markdown Image Cache Policy"));
-    request_.timeout =
-        static_cast<double>(preferences.integerForKey(u"Markdown Image Timeout", kDefaultTimeout));
-}
+    : cachePolicy_{preferences.integerForKey(u"Markdown Image Cache Policy")},
+      timeout_(timeoutOf(preferences)),
+      logsCache_(preferences.boolForKey(u"URLCache Log")),
+      loader_(sharedUrlLoader()) {}
 
 TextAttachment ImageFetch::attachmentFor(StringView text, StringView target) {
     const String plain = withoutEscapes(text);
@@ -65,33 +74,38 @@ TextAttachment ImageFetch::attachmentFor(StringView text, StringView target) {
     TextAttachment attachment;
     attachment.alternativeText = plain.substr(0, bar);
     attachment.source = withoutEscapes(target);
-    std::shared_ptr<const Image>& image = fetched_[attachment.source];
-    if (image == nullptr) {
-        const auto url = urlForTarget(target);
-        image = url ? fetch(*url) : std::make_shared<const Image>(cautionImage());
-    }
-    attachment.image = image;
+    const auto url = urlForTarget(target);
+    attachment.image = url ? fetch(*url) : nullptr;
+    if (attachment.image == nullptr) attachment.image = caution_;
     applySize(attachment,
               bar == String::npos ? NamedSize{} : readSize(StringView(plain).substr(bar + 1)));
     return attachment;
 }
 
-std::shared_ptr<const Image> ImageFetch::fetch(const URL& url) {
-    request_.url = url;
+ImageFetch::ImagePointer ImageFetch::fetch(const URL& url) {
+    const auto start = Clock::now();
     if (logsCache_) {
         logLine(loader_->hasCachedResponse(url) ? u"Cached response found!"
                                                 : u"No cached response found.");
     }
-    std::optional<Image> image = load(request_);
+    ImagePointer image = load({url, cachePolicy_, timeout_});
     if (logsCache_) logCacheUse();
+    if (image != nullptr) return image;
     // What the cache or the server gave first may be damaged or out of date.
-    if (!image) image = load({url, UrlCachePolicy::ReloadIgnoringLocalCache, request_.timeout});
-    return std::make_shared<const Image>(image ? *std::move(image) : cautionImage());
+    const std::chrono::duration<double> spent = Clock::now() - start;
+    const double left = timeout_ - spent.count();
+    return left > 0 ? load({url, UrlCachePolicy::ReloadIgnoringLocalCache, left}) : nullptr;
 }
 
-std::optional<Image> ImageFetch::load(const UrlRequest& request) {
+ImageFetch::ImagePointer ImageFetch::load(const UrlRequest& request) {
     const auto data = loader_->load(request);
-    return data ? sharedImageDecoder()->decode(*data) : std::nullopt;
+    if (!data) return nullptr;
+    ImagePointer& last = images_[request.url.absoluteString];
+    if (last != nullptr && last->data == *data) return last;
+    auto image = sharedImageDecoder()->decode(*data);
+    if (!image) return nullptr;
+    last = std::make_shared<const Image>(*std::move(image));
+    return last;
 }
 
 void ImageFetch::logCacheUse() {
