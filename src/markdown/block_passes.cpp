@@ -4,9 +4,27 @@
 #include "markdown/passes.h"
 
 namespace QZCore {
+namespace {
 
-void renderCodeBlocks(RenderingContext& context, const MarkdownExpression& expression) {
-    if (context.text.find(expression).empty()) return;
+/// One group of the match takes the style; the rest of the match goes.
+class StyledGroup final : public MatchEditor {
+public:
+    StyledGroup(std::size_t group, ResolvedStyles styles)
+        : group_(group), styles_(std::move(styles)) {}
+
+    MatchEdit edit(const SpanMatch& match, std::uint32_t id) override {
+        return MatchEdit::keep(match.groups[group_], styles_.forMatchAt(id));
+    }
+
+private:
+    std::size_t group_;
+    ResolvedStyles styles_;
+};
+
+}  // namespace
+
+Pass codeBlockPass(RenderingContext& context) {
+    constexpr std::size_t kCode = 0;
     const Preferences& preferences = context.preferences;
     Dictionary style{
         {kStyleFontFamily, preferences.stringForKey(u"Markdown Code Block Font", u"Menlo")},
@@ -15,14 +33,12 @@ void renderCodeBlocks(RenderingContext& context, const MarkdownExpression& expre
     };
     setColor(style, colorForKey(preferences, u"Markdown Code Block Text Color", Color::textColor()),
              kStyleFontColor);
-    ResolvedStyles styles(context, std::move(style), u"```", context.afterRendering());
-    context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
-        return MatchEdit::keep(match.groups[0], styles.forMatchAt(id));
-    });
+    return std::make_unique<StyledGroup>(
+        kCode, ResolvedStyles(context, std::move(style), u"```", context.afterRendering()));
 }
 
-void renderBlockQuotes(RenderingContext& context, const MarkdownExpression& expression) {
-    if (context.text.find(expression).empty()) return;
+Pass blockQuotePass(RenderingContext& context) {
+    constexpr std::size_t kQuotedText = 1;
     const Preferences& preferences = context.preferences;
     const auto number = [&](StringView key, double otherwise) {
         return preferences.doubleForKey(key, otherwise);
@@ -38,10 +54,8 @@ void renderBlockQuotes(RenderingContext& context, const MarkdownExpression& expr
     setColor(style,
              colorForKey(preferences, u"Markdown Block Quote Text Color", Color::textColor()),
              kStyleFontColor);
-    ResolvedStyles styles(context, std::move(style), u">");
-    context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
-        return MatchEdit::keep(match.groups[1], styles.forMatchAt(id));
-    });
+    return std::make_unique<StyledGroup>(kQuotedText,
+                                         ResolvedStyles(context, std::move(style), u">"));
 }
 
 }  // namespace QZCore

@@ -1,4 +1,5 @@
 // Inline code and fenced code blocks.
+#include "markdown/code_fences.h"
 #include "markdown/delimiter_run.h"
 #include "markdown/row_scanners.h"
 
@@ -35,15 +36,14 @@ std::size_t findFence(StringView text, std::size_t from) {
     }
 }
 
-// The first fence from `from` on that ends its line.
+}  // namespace
+
 std::size_t findOpeningFence(StringView text, std::size_t from) {
     for (;; ++from) {
         from = findFence(text, from);
         if (from == text.size() || text.substr(from + kFenceLength, 1) == u"\n") return from;
     }
 }
-
-}  // namespace
 
 void scanCodeBlocks(StringView text, MatchSink& sink) {
     std::size_t position = 0;

@@ -1,5 +1,8 @@
+#include <utility>
+
 #include "QZCore/color.h"
 #include "markdown/passes.h"
+#include "richtext/attribute_names.h"
 
 namespace QZCore {
 namespace {
@@ -9,53 +12,67 @@ SpanMatch::Span withinDelimiters(const SpanMatch& match, std::uint32_t length) {
     return {match.whole.start + length, match.whole.end - length};
 }
 
-void renderStyled(RenderingContext& context, const MarkdownExpression& expression,
-                  std::uint32_t delimiterLength, ResolvedStyles styles) {
-    if (context.text.find(expression).empty()) return;
-    context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
-        return MatchEdit::keep(withinDelimiters(match, delimiterLength), styles.forMatchAt(id));
-    });
+/// The content takes a style.
+class StyledContent final : public MatchEditor {
+public:
+    StyledContent(std::uint32_t delimiterLength, ResolvedStyles styles)
+        : delimiterLength_(delimiterLength), styles_(std::move(styles)) {}
+
+    MatchEdit edit(const SpanMatch& match, std::uint32_t id) override {
+        return MatchEdit::keep(withinDelimiters(match, delimiterLength_), styles_.forMatchAt(id));
+    }
+
+private:
+    std::uint32_t delimiterLength_;
+    ResolvedStyles styles_;
+};
+
+Pass styledPass(std::uint32_t delimiterLength, ResolvedStyles styles) {
+    return std::make_unique<StyledContent>(delimiterLength, std::move(styles));
 }
 
-/// For constructs that set one attribute and take no style.
-void renderLined(RenderingContext& context, const MarkdownExpression& expression,
-                 AttributeName lineStyle) {
-    if (context.text.find(expression).empty()) return;
-    constexpr std::uint32_t kDelimiterLength = 2;
-    constexpr int kSingle = 1;
-    AddedAttributes added(TextAttributes{{lineStyle, kSingle}});
-    context.text.apply([&](const SpanMatch& match, std::uint32_t) {
-        return MatchEdit::keep(withinDelimiters(match, kDelimiterLength), added);
-    });
-}
+/// The content takes a single line, and no style.
+class LinedContent final : public MatchEditor {
+public:
+    explicit LinedContent(AttributeName lineStyle) : added_(TextAttributes{{lineStyle, kSingle}}) {}
+
+    MatchEdit edit(const SpanMatch& match, std::uint32_t) override {
+        return MatchEdit::keep(withinDelimiters(match, kDelimiterLength), added_);
+    }
+
+private:
+    static constexpr std::uint32_t kDelimiterLength = 2;
+    static constexpr int kSingle = 1;
+
+    AddedAttributes added_;
+};
 
 }  // namespace
 
-void renderItalic(RenderingContext& context, const MarkdownExpression& expression) {
+Pass italicPass(RenderingContext& context) {
     // Both forms share the entry of the asterisk. Deliberate: a style sheet
     // speaks of italic, not of how it is written.
-    renderStyled(context, expression, 1, {context, {{kStyleFontItalic, true}}, u"*"});
+    return styledPass(1, {context, {{kStyleFontItalic, true}}, u"*"});
 }
 
-void renderBold(RenderingContext& context, const MarkdownExpression& expression) {
-    renderStyled(context, expression, 2, {context, {{kStyleFontBold, true}}, u"**"});
+Pass boldPass(RenderingContext& context) {
+    return styledPass(2, {context, {{kStyleFontBold, true}}, u"**"});
 }
 
-void renderBoldItalic(RenderingContext& context, const MarkdownExpression& expression) {
-    renderStyled(context, expression, 3,
-                 {context, {{kStyleFontBold, true}, {kStyleFontItalic, true}}, u"***"});
+Pass boldItalicPass(RenderingContext& context) {
+    return styledPass(3, {context, {{kStyleFontBold, true}, {kStyleFontItalic, true}}, u"***"});
 }
 
-void renderHighlight(RenderingContext& context, const MarkdownExpression& expression) {
+Pass highlightPass(RenderingContext& context) {
     const Color translucentYellow = Color::colorWithCalibratedRed(1, 1, 0, 0.4);
     Dictionary style;
     setColor(style,
              colorForKey(context.preferences, u"Markdown Highlight Color", translucentYellow),
              kStyleBackgroundColor);
-    renderStyled(context, expression, 2, {context, std::move(style), u"highlight"});
+    return styledPass(2, {context, std::move(style), u"highlight"});
 }
 
-void renderInlineCode(RenderingContext& context, const MarkdownExpression& expression) {
+Pass inlineCodePass(RenderingContext& context) {
     const Preferences& preferences = context.preferences;
     Dictionary style{
         {kStyleFontFamily, preferences.stringForKey(u"Markdown Inline Code Font", u"Menlo")},
@@ -65,16 +82,15 @@ void renderInlineCode(RenderingContext& context, const MarkdownExpression& expre
     setColor(style, colorForKey(preferences, u"Markdown Inline Code Text Color"), kStyleFontColor);
     // A run of two or three backticks loses only its outermost. Deliberate:
     // the inner ones show that the code was quoted with more than one.
-    renderStyled(context, expression, 1,
-                 {context, std::move(style), u"`", context.afterRendering()});
+    return styledPass(1, {context, std::move(style), u"`", context.afterRendering()});
 }
 
-void renderUnderline(RenderingContext& context, const MarkdownExpression& expression) {
-    renderLined(context, expression, NSUnderlineStyleAttributeName);
+Pass underlinePass(RenderingContext&) {
+    return std::make_unique<LinedContent>(attributeNames().underlineStyle);
 }
 
-void renderStrikethrough(RenderingContext& context, const MarkdownExpression& expression) {
-    renderLined(context, expression, NSStrikethroughStyleAttributeName);
+Pass strikethroughPass(RenderingContext&) {
+    return std::make_unique<LinedContent>(attributeNames().strikethroughStyle);
 }
 
 }  // namespace QZCore

@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "QZCore/foundation/text.h"
-#include "markdown/unit_search.h"
+#include "foundation/unit_search.h"
 
 namespace QZCore {
 

@@ -3,28 +3,14 @@
 #include <algorithm>
 #include <optional>
 
+#include "markdown/escape_scanner.h"
 #include "markdown/expression_matches.h"
-#include "markdown/scanner.h"
 
 namespace QZCore {
 
 namespace {
 
 constexpr StringView kBlankLine = u"\n\n";
-
-// `text` with a placeholder of the same length for every escape: itself when
-// there is none, else a copy in `storage`.
-StringView withoutEscapes(StringView text, String& storage) {
-    constexpr StringView kPlaceholder = u"@@";
-    std::vector<SpanMatch> escapes;
-    scanMatches(ScannerKind::Escape, text, escapes);
-    if (escapes.empty()) return text;
-    storage = text;
-    for (const SpanMatch& escape : escapes) {
-        kPlaceholder.copy(storage.data() + escape.whole.start, kPlaceholder.size());
-    }
-    return storage;
-}
 
 std::optional<SpanMatch::Span> firstMatch(StringView key, StringView text,
                                           const MarkdownSyntax& syntax) {
@@ -72,7 +58,7 @@ bool isTableAlone(SpanMatch::Span table, StringView text) {
 bool containsMarkdownOptions(StringView text, std::uint32_t options, bool onlyOne,
                              const MarkdownSyntax& syntax) {
     String storage;
-    const StringView trimmed = trimmedOfWhitespaceAndNewlines(withoutEscapes(text, storage));
+    const StringView trimmed = trimmedOfWhitespaceAndNewlines(coverEscapes(text, storage));
     if ((options & kMarkdownOptionRichText) != 0 && containsRichText(trimmed, syntax)) return true;
     if ((options & kMarkdownOptionList) != 0) {
         const auto list = firstMatch(kMarkdownList, trimmed, syntax);

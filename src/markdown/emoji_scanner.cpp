@@ -1,6 +1,6 @@
 // Short codes of emoji between colons.
+#include "foundation/unit_search.h"
 #include "markdown/row_scanners.h"
-#include "markdown/unit_search.h"
 
 namespace QZCore {
 

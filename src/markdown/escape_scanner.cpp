@@ -1,20 +1,46 @@
-// A backslash and the character that it takes the meaning from.
+#include "markdown/escape_scanner.h"
+
+#include <array>
+
+#include "foundation/unit_search.h"
 #include "markdown/row_scanners.h"
-#include "markdown/unit_search.h"
 
 namespace QZCore {
+namespace {
+
+constexpr auto kEscapable = [] {
+    std::array<bool, 0x80> table{};
+    for (const char16_t unit : StringView(u"\\`*_()[]#+-!")) table[unit] = true;
+    return table;
+}();
+
+bool isEscapable(char16_t unit) { return unit < kEscapable.size() && kEscapable[unit]; }
+
+}  // namespace
+
+std::size_t findEscape(StringView text, std::size_t from) {
+    while ((from = findUnit(text, from, u'\\')) + 1 < text.size()) {
+        if (isEscapable(text[from + 1])) return from;
+        ++from;
+    }
+    return text.size();
+}
+
+StringView coverEscapes(StringView text, String& copy) {
+    std::size_t at = findEscape(text, 0);
+    if (at == text.size()) return text;
+    copy = text;
+    for (; at < text.size(); at = findEscape(text, at + kEscapeLength)) {
+        copy[at] = copy[at + 1] = u'@';
+    }
+    return copy;
+}
 
 void scanEscapes(StringView text, MatchSink& sink) {
-    constexpr StringView kEscapable = u"\\`*_()[]#+-!";
-    std::size_t position = 0;
-    while ((position = findUnit(text, position, u'\\')) + 1 < text.size()) {
-        if (kEscapable.find(text[position + 1]) == StringView::npos) {
-            ++position;
-            continue;
-        }
-        const SpanMatch::Span whole = spanOf(position, position + 2);
+    for (std::size_t at = findEscape(text, 0); at < text.size();
+         at = findEscape(text, at + kEscapeLength)) {
+        const SpanMatch::Span whole = spanOf(at, at + kEscapeLength);
         if (!sink.add({whole, {whole}})) return;
-        position += 2;
     }
 }
 

@@ -1,3 +1,6 @@
+#include <array>
+#include <optional>
+
 #include "QZCore/color.h"
 #include "markdown/passes.h"
 
@@ -38,18 +41,29 @@ Dictionary headerStyle(const RenderingContext& context, std::size_t level) {
     return style;
 }
 
+/// The title takes the style of its level.
+class HeaderEditor final : public MatchEditor {
+public:
+    explicit HeaderEditor(const RenderingContext& context) : context_(context) {}
+
+    MatchEdit edit(const SpanMatch& match, std::uint32_t id) override {
+        const std::size_t level = match.groups[0].end - match.groups[0].start;
+        return MatchEdit::keep(match.groups[1], stylesOf(level).forMatchAt(id));
+    }
+
+private:
+    ResolvedStyles& stylesOf(std::size_t level) {
+        std::optional<ResolvedStyles>& styles = levels_[level - 1];
+        if (!styles) styles.emplace(context_, headerStyle(context_, level), String(level, u'#'));
+        return *styles;
+    }
+
+    const RenderingContext& context_;
+    std::array<std::optional<ResolvedStyles>, kLevels> levels_;
+};
+
 }  // namespace
 
-void renderHeaders(RenderingContext& context, const MarkdownExpression& expression) {
-    if (context.text.find(expression).empty()) return;
-    std::vector<ResolvedStyles> levels;
-    for (std::size_t level = 1; level <= kLevels; ++level) {
-        levels.emplace_back(context, headerStyle(context, level), String(level, u'#'));
-    }
-    context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
-        const std::uint32_t level = match.groups[0].end - match.groups[0].start;
-        return MatchEdit::keep(match.groups[1], levels[level - 1].forMatchAt(id));
-    });
-}
+Pass headerPass(RenderingContext& context) { return std::make_unique<HeaderEditor>(context); }
 
 }  // namespace QZCore

@@ -1,8 +1,8 @@
 // Headers and block quotes: a mark at the start of a line and the rest of it.
 #include <algorithm>
 
+#include "foundation/unit_search.h"
 #include "markdown/row_scanners.h"
-#include "markdown/unit_search.h"
 
 namespace QZCore {
 

@@ -1,3 +1,4 @@
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
@@ -39,55 +40,55 @@ TextAttributes linkLook(const RenderingContext& context) {
     return look;
 }
 
-/// The images of the matches, by the index of their match. They are fetched in
-/// the order in which matches are visited: the last one first.
-class Images {
+class LinkEditor final : public MatchEditor {
 public:
-    Images(RenderingContext& context, const std::vector<SpanMatch>& matches) {
-        const StringView live = context.text.live();
-        const std::vector<bool> kept = context.text.ignoredMatches();
-        ImageFetch fetch(context.preferences);
-        for (std::size_t i = matches.size(); i-- > 0;) {
-            const SpanMatch& match = matches[i];
-            if (kept[i] || !capturesTextAndTarget(match) || !isImage(live, match)) continue;
-            attachments_.emplace(i, fetch.attachmentFor(partOf(live, match.groups[0]),
-                                                        partOf(live, match.groups[1])));
-        }
-    }
+    explicit LinkEditor(RenderingContext& context)
+        : context_(context), look_(linkLook(context), context.afterRendering()) {}
 
-    /// The image of a match, or null.
-    [[nodiscard]] const TextAttachment* find(std::size_t match) const {
-        const auto found = attachments_.find(match);
-        return found == attachments_.end() ? nullptr : &found->second;
+    void beginPart() override { fetchImages(); }
+
+    MatchEdit edit(const SpanMatch& match, std::uint32_t id) override {
+        if (!capturesTextAndTarget(match)) return MatchEdit::leave();
+        AttributePalette& palette = context_.text.palette();
+        const auto image = images_.find(match.whole.start);
+        if (image != images_.end()) {
+            const TextAttributes around = palette.at(id);
+            return MatchEdit::replace(
+                kAttachmentString, palette.idOf(around.withAttribute(attributeNames().attachment,
+                                                                     Value::boxed(image->second))));
+        }
+        const Value link = linkForTarget(partOf(context_.text.live(), match.groups[1]));
+        added_ = AddedAttributes(look_, {attributeNames().link, link});
+        return MatchEdit::keep(match.groups[0], added_);
     }
 
 private:
-    std::unordered_map<std::size_t, TextAttachment> attachments_;
+    /// Images are fetched in the order in which matches are visited: the last
+    /// one first.
+    void fetchImages() {
+        images_.clear();
+        const StringView live = context_.text.live();
+        const std::vector<SpanMatch>& matches = context_.text.matches();
+        const std::vector<bool> kept = context_.text.ignoredMatches();
+        for (std::size_t i = matches.size(); i-- > 0;) {
+            const SpanMatch& match = matches[i];
+            if (kept[i] || !capturesTextAndTarget(match) || !isImage(live, match)) continue;
+            if (!fetch_) fetch_.emplace(context_.preferences);
+            images_.emplace(match.whole.start,
+                            fetch_->attachmentFor(partOf(live, match.groups[0]),
+                                                  partOf(live, match.groups[1])));
+        }
+    }
+
+    RenderingContext& context_;
+    AddedAttributes look_;
+    AddedAttributes added_;
+    std::optional<ImageFetch> fetch_;
+    std::unordered_map<std::uint32_t, TextAttachment> images_;  // by the start of their match
 };
 
 }  // namespace
 
-void renderLinks(RenderingContext& context, const MarkdownExpression& expression) {
-    const std::vector<SpanMatch>& matches = context.text.find(expression);
-    if (matches.empty()) return;
-    const Images images(context, matches);
-    AddedAttributes look(linkLook(context), context.afterRendering());
-    const StringView live = context.text.live();
-    AddedAttributes added;
-    context.text.apply([&](const SpanMatch& match, std::uint32_t id) {
-        if (!capturesTextAndTarget(match)) return MatchEdit::leave();
-        AttributePalette& palette = context.text.palette();
-        const auto index = static_cast<std::size_t>(&match - matches.data());
-        if (const TextAttachment* image = images.find(index)) {
-            const TextAttributes around = palette.at(id);
-            return MatchEdit::replace(kAttachmentString,
-                                      palette.idOf(around.withAttribute(NSAttachmentAttributeName,
-                                                                        Value::boxed(*image))));
-        }
-        const Value link = linkForTarget(partOf(live, match.groups[1]));
-        added = AddedAttributes(look, {attributeNames().link, link});
-        return MatchEdit::keep(match.groups[0], added);
-    });
-}
+Pass linkPass(RenderingContext& context) { return std::make_unique<LinkEditor>(context); }
 
 }  // namespace QZCore

@@ -1,8 +1,8 @@
 // Links and images.
 #include <algorithm>
 
+#include "foundation/unit_search.h"
 #include "markdown/row_scanners.h"
-#include "markdown/unit_search.h"
 
 namespace QZCore {
 

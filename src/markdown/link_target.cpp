@@ -1,19 +1,18 @@
 #include "markdown/link_target.h"
 
 #include "foundation/percent_encoding.h"
-#include "markdown/scanner.h"
+#include "markdown/escape_scanner.h"
 
 namespace QZCore {
 
 String withoutEscapes(StringView text) {
-    std::vector<SpanMatch> escapes;
-    scanMatches(ScannerKind::Escape, text, escapes);
     String plain;
     plain.reserve(text.size());
     std::size_t copied = 0;
-    for (const SpanMatch& escape : escapes) {
-        plain.append(text, copied, escape.whole.start - copied);
-        copied = escape.whole.start + 1;
+    for (std::size_t escape = findEscape(text, 0); escape < text.size();
+         escape = findEscape(text, escape + kEscapeLength)) {
+        plain.append(text, copied, escape - copied);
+        copied = escape + 1;
     }
     return plain.append(text, copied);
 }

@@ -1,8 +1,8 @@
 // Lists and their item lines.
 #include <optional>
 
+#include "foundation/unit_search.h"
 #include "markdown/row_scanners.h"
-#include "markdown/unit_search.h"
 #include "platform/characters.h"
 
 namespace QZCore {

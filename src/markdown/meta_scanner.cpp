@@ -1,6 +1,6 @@
 // Tags and mentions.
+#include "foundation/unit_search.h"
 #include "markdown/row_scanners.h"
-#include "markdown/unit_search.h"
 #include "platform/characters.h"
 
 namespace QZCore {

@@ -1,45 +1,49 @@
 // The passes of the rendering, each over all matches of its construct.
 #pragma once
 
+#include <memory>
+
 #include "markdown/rendering_context.h"
 
 namespace QZCore {
 
+using Pass = std::unique_ptr<MatchEditor>;
+
 /// Code between fences takes the code style and is kept from later passes.
-void renderCodeBlocks(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass codeBlockPass(RenderingContext& context);
 
 /// Links become their text, images attachments.
-void renderLinks(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass linkPass(RenderingContext& context);
 
 /// Code within a line takes the code style and is kept from later passes. One
 /// backtick goes at each end, however many there are.
-void renderInlineCode(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass inlineCodePass(RenderingContext& context);
 
 /// Short codes become their emoji; unknown ones stay as written.
-void renderEmoji(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass emojiPass(RenderingContext& context);
 
 /// Italic, with asterisks or underscores.
-void renderItalic(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass italicPass(RenderingContext& context);
 
 /// Bold.
-void renderBold(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass boldPass(RenderingContext& context);
 
 /// Bold and italic in one.
-void renderBoldItalic(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass boldItalicPass(RenderingContext& context);
 
 /// A single underline. Takes no style.
-void renderUnderline(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass underlinePass(RenderingContext& context);
 
 /// A single strikethrough. Takes no style.
-void renderStrikethrough(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass strikethroughPass(RenderingContext& context);
 
 /// A background colour, with any of three delimiters.
-void renderHighlight(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass highlightPass(RenderingContext& context);
 
 /// Quoted lines are indented.
-void renderBlockQuotes(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass blockQuotePass(RenderingContext& context);
 
 /// Titles take the size of their level.
-void renderHeaders(RenderingContext& context, const MarkdownExpression& expression);
+[[nodiscard]] Pass headerPass(RenderingContext& context);
 
 }  // namespace QZCore

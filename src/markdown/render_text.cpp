@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "QZCore/markdown/rendering.h"
+#include "markdown/escape_scanner.h"
 #include "markdown/expression_matches.h"
 
 namespace QZCore {
@@ -21,15 +22,17 @@ public:
         : text_(text),
           live_(text.flat_.text.data()),
           copy_(text.copyDiffers_ ? text.searchCopy_.data() : nullptr),
-          runs_(text.flat_.runs) {
+          run_(text.flat_.runs.data()),
+          runAhead_(run_) {
         text_.sweptRuns_.clear();
+        text_.sweptRuns_.reserve(text.flat_.runs.size() + 2 * text.matches_.size() + 1);
     }
 
     /// The number of the attributes at `position`, which lies ahead of the walk
     /// and of every position asked about before.
     std::uint32_t idAhead(std::uint32_t position) {
-        while (runs_[runAhead_].end <= position) ++runAhead_;
-        return runs_[runAhead_].id;
+        while (runAhead_->end <= position) ++runAhead_;
+        return runAhead_->id;
     }
 
     /// Moves on to `end` and keeps what lies before it.
@@ -72,37 +75,38 @@ private:
                 std::char_traits<char16_t>::move(copy_ + write_, copy_ + read_, length);
             }
         }
-        while (read_ < end) {
-            while (runs_[run_].end <= read_) ++run_;
-            const std::uint32_t id = runs_[run_].id;
-            const std::uint32_t partEnd = std::min(runs_[run_].end, end);
-            write_ += partEnd - read_;
-            read_ = partEnd;
-            appendRun(text_.sweptRuns_, write_, newId(id));
+        while (run_->end <= read_) ++run_;
+        const std::uint32_t gap = read_ - write_;
+        for (; run_->end < end; ++run_) {
+            appendRun(text_.sweptRuns_, run_->end - gap, newId(run_->id));
         }
+        appendRun(text_.sweptRuns_, end - gap, newId(run_->id));
+        read_ = end;
+        write_ = end - gap;
     }
 
     RenderText& text_;
     char16_t* live_;
     char16_t* copy_;
-    const std::vector<FlatRun>& runs_;
-    std::size_t run_ = 0;
-    std::size_t runAhead_ = 0;
+    const FlatRun* run_;
+    const FlatRun* runAhead_;
     std::uint32_t read_ = 0;
     std::uint32_t write_ = 0;
 };
 
-RenderText::RenderText(FlatText text, const MarkdownExpression* escapes) : flat_(std::move(text)) {
-    markIgnored();
-    if (escapes == nullptr) return;
-    findMatches(*escapes, flat_.text, matches_);
-    copyDiffers_ = !matches_.empty();
-    if (!copyDiffers_) return;
-    searchCopy_ = flat_.text;
-    for (const SpanMatch& match : matches_) {
-        searchCopy_[match.whole.start] = u'@';
-        searchCopy_[match.whole.start + 1] = u'@';
-    }
+void RenderText::load(FlatText part, AddedAttributes& everywhere) {
+    flat_ = std::move(part);
+    // The attribute that keeps passes away is replaced by the mark.
+    const auto marked = [&](std::uint32_t old) {
+        const TextAttributes before = flat_.palette.at(old);
+        if (before.find(kIgnoreBlockAttributeName) == nullptr) return old;
+        return kIgnoreMark | flat_.palette.idOf(before.withoutAttribute(kIgnoreBlockAttributeName));
+    };
+    renumber([&](std::uint32_t id) {
+        return everywhere.over(withoutIgnoreAttribute_(id, marked), flat_.palette);
+    });
+    const StringView covered = coverEscapes(flat_.text, searchCopy_);
+    copyDiffers_ = covered.data() != flat_.text.data();
 }
 
 template <class NewId>
@@ -110,24 +114,6 @@ void RenderText::renumber(NewId newId) {
     sweptRuns_.clear();
     for (const FlatRun& run : flat_.runs) appendRun(sweptRuns_, run.end, newId(run.id));
     std::swap(flat_.runs, sweptRuns_);
-}
-
-/// Replaces the attribute that keeps passes away by the mark.
-void RenderText::markIgnored() {
-    NumberMap numbers;
-    renumber([&](std::uint32_t id) {
-        return numbers(id, [&](std::uint32_t old) {
-            const TextAttributes before = flat_.palette.at(old);
-            if (before.find(kIgnoreBlockAttributeName) == nullptr) return old;
-            return kIgnoreMark |
-                   flat_.palette.idOf(before.withoutAttribute(kIgnoreBlockAttributeName));
-        });
-    });
-}
-
-void RenderText::addEverywhere(const TextAttributes& attributes) {
-    AddedAttributes added(attributes);
-    renumber([&](std::uint32_t id) { return added.over(id, flat_.palette); });
 }
 
 const std::vector<SpanMatch>& RenderText::find(const MarkdownExpression& expression) {
@@ -149,13 +135,13 @@ std::vector<bool> RenderText::ignoredMatches() const {
     return ignored;
 }
 
-void RenderText::apply(const EditMatch& edit) {
+void RenderText::apply(MatchEditor& editor) {
     if (matches_.empty()) return;
     Sweep sweep(*this);
     for (const SpanMatch& match : matches_) {
         const std::uint32_t id = sweep.idAhead(match.whole.start);
         if (isIgnored(id)) continue;
-        const MatchEdit change = edit(match, id);
+        const MatchEdit change = editor.edit(match, id);
         if (change.added == nullptr && change.replacement.empty()) continue;
         sweep.keepUpTo(match.whole.start);
         if (change.added != nullptr) {
@@ -168,21 +154,23 @@ void RenderText::apply(const EditMatch& edit) {
     sweep.finish();
 }
 
-void RenderText::resolveEscapes(const MarkdownExpression& escapes) {
+void RenderText::resolveEscapes() {
     copyDiffers_ = false;
-    matches_.clear();
-    findMatches(escapes, flat_.text, matches_);
-    if (matches_.empty()) return;
+    std::size_t escape = findEscape(flat_.text, 0);
+    if (escape == flat_.text.size()) return;
     Sweep sweep(*this);
-    for (const SpanMatch& match : matches_) {
-        sweep.keepUpTo(match.whole.start);
-        sweep.deleteUpTo(match.whole.start + 1);
+    for (; escape < flat_.text.size(); escape = findEscape(flat_.text, escape + kEscapeLength)) {
+        const auto start = static_cast<std::uint32_t>(escape);
+        sweep.keepUpTo(start);
+        sweep.deleteUpTo(start + 1);
     }
     sweep.finish();
 }
 
-void RenderText::removeIgnoreMarks() {
+FlatText RenderText::take() {
+    resolveEscapes();
     renumber([](std::uint32_t id) { return id & ~kIgnoreMark; });
+    return std::move(flat_);
 }
 
 }  // namespace QZCore

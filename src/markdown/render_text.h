@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -71,55 +70,62 @@ struct MatchEdit {
     static MatchEdit replace(StringView text, std::uint32_t id) { return {{}, nullptr, text, id}; }
 };
 
+/// Decides for each match of a construct what becomes of it. Made once for a
+/// note, used for all of its parts.
+class MatchEditor {
+public:
+    virtual ~MatchEditor() = default;
+
+    /// Called when the matches of a part are found and none is edited yet.
+    virtual void beginPart() {}
+
+    /// What becomes of `match`, which starts with the attributes `id`. What the
+    /// edit refers to must last until the next call.
+    [[nodiscard]] virtual MatchEdit edit(const SpanMatch& match, std::uint32_t id) = 0;
+};
+
 /// The live text with its runs, and the search copy beside it, in which every
 /// escape reads "@@". Positions in both are always the same. Passes search the
 /// copy and edit both.
+///
+/// One object renders the parts of a note one after the other, so that its
+/// buffers are made once. The palette goes from part to part.
 class RenderText {
 public:
-    /// Makes the search copy by the `escape` row, which may be null.
-    RenderText(FlatText text, const MarkdownExpression* escapes);
+    /// Takes a part over, adds attributes to all of it and makes its search
+    /// copy.
+    void load(FlatText part, AddedAttributes& everywhere);
 
     [[nodiscard]] StringView live() const { return flat_.text; }
     [[nodiscard]] StringView searchCopy() const {
         return copyDiffers_ ? StringView(searchCopy_) : StringView(flat_.text);
     }
     [[nodiscard]] AttributePalette& palette() { return flat_.palette; }
-    /// The number of the attributes at the start of the text.
-    [[nodiscard]] std::uint32_t firstId() const {
-        return flat_.runs.empty() ? 0 : flat_.runs.front().id & ~kIgnoreMark;
-    }
 
-    /// Adds attributes to the whole text.
-    void addEverywhere(const TextAttributes& added);
-
-    /// Finds all matches of a pass in the search copy, but for empty ones.
+    /// Finds all matches of a pass in the search copy.
     [[nodiscard]] const std::vector<SpanMatch>& find(const MarkdownExpression& expression);
+    /// The matches found last.
+    [[nodiscard]] const std::vector<SpanMatch>& matches() const { return matches_; }
 
     /// For each match found last, whether it is marked to be ignored.
     [[nodiscard]] std::vector<bool> ignoredMatches() const;
 
-    using EditMatch = std::function<MatchEdit(const SpanMatch& match, std::uint32_t id)>;
-    /// Applies a pass to the matches found last. `edit` is asked once for each
-    /// match whose first character is not marked to be ignored, with the
-    /// attributes there.
+    /// Applies a pass to the matches found last. The editor is asked once for
+    /// each match whose first character is not marked to be ignored.
     ///
     /// The passes are defined as edits from the last match to the first. As the
     /// matches of a pass do not overlap and none reads what another changes,
     /// one forward sweep gives the same and moves every unit once.
-    void apply(const EditMatch& edit);
+    void apply(MatchEditor& editor);
 
-    /// Deletes the backslash of every escape that the live text holds now.
-    void resolveEscapes(const MarkdownExpression& escapes);
-    /// Takes the mark that keeps passes away from the whole text.
-    void removeIgnoreMarks();
-
-    /// Gives the rendered text up.
-    [[nodiscard]] FlatText take() { return std::move(flat_); }
+    /// Gives the rendered part up, without the backslashes of its escapes and
+    /// without the mark that keeps passes away.
+    [[nodiscard]] FlatText take();
 
 private:
     class Sweep;
 
-    void markIgnored();
+    void resolveEscapes();
     template <class NewId>
     void renumber(NewId newId);
 
@@ -128,6 +134,7 @@ private:
     bool copyDiffers_ = false;
     std::vector<SpanMatch> matches_;
     std::vector<FlatRun> sweptRuns_;
+    NumberMap withoutIgnoreAttribute_;
 };
 
 }  // namespace QZCore

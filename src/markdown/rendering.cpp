@@ -1,8 +1,14 @@
 #include "QZCore/markdown/rendering.h"
 
+#include <array>
+#include <memory>
+#include <utility>
+
 #include "QZCore/markdown/detection.h"
 #include "QZCore/platform/fonts.h"
+#include "markdown/note_parts.h"
 #include "markdown/passes.h"
+#include "markdown/rendering_in_parts.h"
 #include "richtext/attribute_fixing.h"
 
 namespace QZCore {
@@ -10,61 +16,101 @@ namespace {
 
 constexpr double kDefaultFontSize = 12;
 
-struct Pass {
+struct PassRow {
     StringView key;
-    void (*render)(RenderingContext& context, const MarkdownExpression& expression);
+    Pass (*make)(RenderingContext& context);
 };
 
 // Code comes first, so that its content is marked before an emphasis pass could
 // see markers in it. Single markers come before double and triple ones; the
 // expressions keep them from matching inside those.
-constexpr Pass kPasses[] = {
-    {kMarkdownCodeBlock, renderCodeBlocks},
-    {kMarkdownLink, renderLinks},
-    {kMarkdownInlineCode, renderInlineCode},
-    {kMarkdownEmoji, renderEmoji},
-    {kMarkdownItalicAsterisk, renderItalic},
-    {kMarkdownItalicUnderscore, renderItalic},
-    {kMarkdownBold, renderBold},
-    {kMarkdownBoldItalic, renderBoldItalic},
-    {kMarkdownUnderline, renderUnderline},
-    {kMarkdownStrikethrough, renderStrikethrough},
-    {kMarkdownHighlightEquals, renderHighlight},
-    {kMarkdownHighlightCaret, renderHighlight},
-    {kMarkdownHighlightColon, renderHighlight},
-    {kMarkdownBlockQuote, renderBlockQuotes},
-    {kMarkdownHeaders, renderHeaders},
+constexpr std::array kPasses{
+    PassRow{kMarkdownCodeBlock, codeBlockPass},
+    PassRow{kMarkdownLink, linkPass},
+    PassRow{kMarkdownInlineCode, inlineCodePass},
+    PassRow{kMarkdownEmoji, emojiPass},
+    PassRow{kMarkdownItalicAsterisk, italicPass},
+    PassRow{kMarkdownItalicUnderscore, italicPass},
+    PassRow{kMarkdownBold, boldPass},
+    PassRow{kMarkdownBoldItalic, boldItalicPass},
+    PassRow{kMarkdownUnderline, underlinePass},
+    PassRow{kMarkdownStrikethrough, strikethroughPass},
+    PassRow{kMarkdownHighlightEquals, highlightPass},
+    PassRow{kMarkdownHighlightCaret, highlightPass},
+    PassRow{kMarkdownHighlightColon, highlightPass},
+    PassRow{kMarkdownBlockQuote, blockQuotePass},
+    PassRow{kMarkdownHeaders, headerPass},
 };
 
-/// Adds what the style sheet says of the whole text and notes its font.
-void applyBodyStyle(RenderingContext& context) {
-    context.baseFont = context.fontOf(context.text.firstId());
+/// What the style sheet says of the whole text; notes the font at its start.
+TextAttributes bodyStyle(RenderingContext& context, const TextAttributes& first) {
+    if (first.font() != nullptr) context.baseFont = *first.font();
     const Dictionary* body = context.styleNamed(u"body");
-    if (body == nullptr) return;
-    context.text.addEverywhere(fontAttributesWithDefaultStyle(nullptr, body, context.baseFont));
-    context.baseFont = context.fontOf(context.text.firstId());
+    if (body == nullptr) return {};
+    TextAttributes style = fontAttributesWithDefaultStyle(nullptr, body, context.baseFont);
+    if (style.font() != nullptr) context.baseFont = *style.font();
+    return style;
 }
+
+/// Renders the parts of one note, in any order.
+class NoteRenderer {
+public:
+    NoteRenderer(const RichText& text, const StyleSheet& styles, const MarkdownSyntax& syntax,
+                 const Preferences& preferences)
+        : syntax_(syntax),
+          catalog_(sharedFontCatalog()),
+          context_{text_, styles, preferences, catalog_->userFont(kDefaultFontSize)},
+          body_(bodyStyle(context_, text.attributesAtIndex(0))),
+          fixing_(*catalog_) {}
+
+    /// Renders `part`, whose runs are numbered by `palette`.
+    void render(FlatText& part, AttributePalette& palette) {
+        part.palette = std::move(palette);
+        text_.load(std::move(part), body_);
+        for (std::size_t i = 0; i < kPasses.size(); ++i) applyPass(i);
+        part = text_.take();
+        fixing_.fixAttributes(part);
+        palette = std::move(part.palette);
+    }
+
+private:
+    void applyPass(std::size_t index) {
+        const MarkdownExpression* expression = syntax_.expressionForKey(kPasses[index].key);
+        if (expression == nullptr || text_.find(*expression).empty()) return;
+        Pass& pass = passes_[index];
+        if (pass == nullptr) pass = kPasses[index].make(context_);
+        pass->beginPart();
+        text_.apply(*pass);
+    }
+
+    const MarkdownSyntax& syntax_;
+    std::shared_ptr<const FontCatalog> catalog_;
+    RenderText text_;
+    RenderingContext context_;
+    AddedAttributes body_;
+    AttributeFixing fixing_;
+    std::array<Pass, kPasses.size()> passes_;
+};
 
 }  // namespace
 
 void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles,
+                                       const MarkdownSyntax& syntax, const Preferences& preferences,
+                                       std::size_t partLength) {
+    if (text.empty() || text.length() >= kFlatTextLimit) return;
+    AttributePalette palette;
+    std::vector<FlatText> parts = notePartsOf(text, syntax, palette, partLength);
+    NoteRenderer renderer(text, styles, syntax, preferences);
+    // From the last to the first, as the matches of a pass are visited: images
+    // are fetched in that order.
+    for (std::size_t i = parts.size(); i-- > 0;) renderer.render(parts[i], palette);
+    FlatTextAccess::replaceContents(text, std::move(parts), std::move(palette));
+}
+
+void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles,
                                        const MarkdownSyntax& syntax,
                                        const Preferences& preferences) {
-    if (text.empty() || text.length() >= kFlatTextLimit) return;
-    const MarkdownExpression* escapes = syntax.expressionForKey(kMarkdownEscape);
-    RenderText rendered(FlatTextAccess::flattened(text, {0, text.length()}), escapes);
-    RenderingContext context{rendered, styles, preferences,
-                             sharedFontCatalog()->userFont(kDefaultFontSize)};
-    applyBodyStyle(context);
-    for (const Pass& pass : kPasses) {
-        const MarkdownExpression* expression = syntax.expressionForKey(pass.key);
-        if (expression != nullptr) pass.render(context, *expression);
-    }
-    if (escapes != nullptr) rendered.resolveEscapes(*escapes);
-    rendered.removeIgnoreMarks();
-    FlatText result = rendered.take();
-    fixAttributes(result, *sharedFontCatalog());
-    FlatTextAccess::replaceContents(text, std::move(result));
+    renderContainedMarkdownWithStyles(text, styles, syntax, preferences, kNotePartLength);
 }
 
 void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles) {

@@ -19,14 +19,14 @@ LaterPasses RenderingContext::afterRendering() const {
     return keepsAway ? LaterPasses::KeepAway : LaterPasses::GoOn;
 }
 
-ResolvedStyles::ResolvedStyles(RenderingContext& context, Dictionary defaultStyle,
+ResolvedStyles::ResolvedStyles(const RenderingContext& context, Dictionary defaultStyle,
                                StringView userStyleName, LaterPasses later)
     : context_(context),
       defaultStyle_(std::move(defaultStyle)),
       userStyle_(context.styleNamed(userStyleName)),
       later_(later) {}
 
-AddedAttributes& ResolvedStyles::forMatchAt(std::uint32_t id) {
+AddedAttributes& ResolvedStyles::resolved(std::uint32_t id) {
     const auto [at, isNew] = resolved_.try_emplace(id);
     if (isNew) {
         at->second = AddedAttributes(

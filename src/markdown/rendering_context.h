@@ -14,7 +14,7 @@ struct RenderingContext {
     RenderText& text;
     const StyleSheet& styles;
     const Preferences& preferences;
-    /// The font where the text has none.
+    /// The font at the start of the note; the font where the text has none.
     Font baseFont;
 
     /// The style sheet's style of that name, or null.
@@ -32,18 +32,32 @@ struct RenderingContext {
 /// each set of attributes that a match starts with.
 class ResolvedStyles {
 public:
-    ResolvedStyles(RenderingContext& context, Dictionary defaultStyle, StringView userStyleName,
-                   LaterPasses later = LaterPasses::GoOn);
+    ResolvedStyles(const RenderingContext& context, Dictionary defaultStyle,
+                   StringView userStyleName, LaterPasses later = LaterPasses::GoOn);
+
+    ResolvedStyles(ResolvedStyles&&) = default;
+    ResolvedStyles(const ResolvedStyles&) = delete;
+    ResolvedStyles& operator=(const ResolvedStyles&) = delete;
 
     /// The attributes to add to a match that starts with the set `id`.
-    [[nodiscard]] AddedAttributes& forMatchAt(std::uint32_t id);
+    [[nodiscard]] AddedAttributes& forMatchAt(std::uint32_t id) {
+        if (last_ == nullptr || id != lastId_) {
+            last_ = &resolved(id);
+            lastId_ = id;
+        }
+        return *last_;
+    }
 
 private:
-    RenderingContext& context_;
+    [[nodiscard]] AddedAttributes& resolved(std::uint32_t id);
+
+    const RenderingContext& context_;
     Dictionary defaultStyle_;
     const Dictionary* userStyle_;
     LaterPasses later_;
     std::unordered_map<std::uint32_t, AddedAttributes> resolved_;
+    AddedAttributes* last_ = nullptr;
+    std::uint32_t lastId_ = 0;
 };
 
 }  // namespace QZCore

@@ -1,6 +1,6 @@
 // Separator lines of tables.
+#include "foundation/unit_search.h"
 #include "markdown/row_scanners.h"
-#include "markdown/unit_search.h"
 
 namespace QZCore {
 

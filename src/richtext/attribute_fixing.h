@@ -1,29 +1,29 @@
 // Fixing of attributes: what a text's attributes must satisfy after edits.
 #pragma once
 
-#include "richtext/flat_text.h"
+#include "richtext/font_fixing.h"
+#include "richtext/paragraph_fixing.h"
 
 namespace QZCore {
 
-class FontCatalog;
+/// Fixes texts, one after the other, whose runs are numbered by one palette
+/// that is handed from text to text.
+class AttributeFixing {
+public:
+    /// Fonts are looked up in `catalog`, which must outlive this.
+    explicit AttributeFixing(const FontCatalog& catalog) : fonts_(catalog) {}
 
-/// Whether a paragraph ends behind the unit before `position`, which must not
-/// be 0: behind a line feed, a carriage return (but not between the two) or a
-/// paragraph separator.
-[[nodiscard]] bool paragraphEndsBefore(StringView text, std::size_t position);
+    /// Takes attachments from all but attachment characters, gives each
+    /// paragraph one paragraph style and each character a font that shows it.
+    void fixAttributes(FlatText& text);
 
-/// Attachments stay only on attachment characters.
-void fixAttachments(FlatText& text);
+private:
+    void fixAttachments(FlatText& text);
 
-/// All of a paragraph takes the paragraph style of its first character.
-void fixParagraphStyles(FlatText& text);
-
-/// A font that cannot show a character is replaced, for that character and the
-/// marks that join it, by one that can. Characters that no font shows keep
-/// theirs.
-void fixFonts(FlatText& text, const FontCatalog& catalog);
-
-/// All three.
-void fixAttributes(FlatText& text, const FontCatalog& catalog);
+    bool hasAttachments_ = false;
+    std::uint32_t knownIds_ = 0;  // how many were asked for attachments
+    ParagraphFixing paragraphs_;
+    FontFixing fonts_;
+};
 
 }  // namespace QZCore

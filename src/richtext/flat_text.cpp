@@ -6,8 +6,9 @@
 
 namespace QZCore {
 
-FlatText FlatTextAccess::flattened(const RichText& text, Range range) {
+FlatText FlatTextAccess::flattened(const RichText& text, Range range, AttributePalette palette) {
     FlatText flat;
+    flat.palette = std::move(palette);
     range = clampedRange(range, text.length());
     flat.text = text.string(range);
     if (range.length == 0) return flat;
@@ -31,11 +32,17 @@ FlatText FlatTextAccess::flattened(const RichText& text, Range range) {
     return flat;
 }
 
-void FlatTextAccess::replaceContents(RichText& text, FlatText contents) {
-    text.noteEdit({0, text.length()}, contents.text.size());
+void FlatTextAccess::replaceContents(RichText& text, std::vector<FlatText> parts,
+                                     AttributePalette palette) {
+    std::size_t length = 0;
+    for (const FlatText& part : parts) length += part.text.size();
+    text.noteEdit({0, text.length()}, length);
     auto store = std::make_shared<RichText::Store>();
-    store->setPalette(std::move(contents.palette));
-    store->append(contents.text, contents.runs);
+    store->setPalette(std::move(palette));
+    for (FlatText& part : parts) {
+        store->append(part.text, part.runs);
+        part = {};
+    }
     store->finishBuilding();
     text.store_ = std::move(store);
 }

@@ -32,10 +32,14 @@ inline constexpr std::size_t kFlatTextLimit = UINT32_MAX;
 
 /// The way between both forms.
 struct FlatTextAccess {
-    /// The part of `text` in `range`, which must be shorter than the limit.
-    [[nodiscard]] static FlatText flattened(const RichText& text, Range range);
-    /// Replaces the whole contents of `text`, as one edit.
-    static void replaceContents(RichText& text, FlatText contents);
+    /// The part of `text` in `range`, which must be shorter than the limit. Its
+    /// sets are added to `palette`.
+    [[nodiscard]] static FlatText flattened(const RichText& text, Range range,
+                                            AttributePalette palette = {});
+    /// Replaces the whole contents of `text` by `parts`, all numbered by
+    /// `palette`, as one edit.
+    static void replaceContents(RichText& text, std::vector<FlatText> parts,
+                                AttributePalette palette);
 };
 
 /// Adds a run to `runs`, or lets the last one grow when it has the same

@@ -1,10 +1,11 @@
-#include <optional>
-#include <unordered_map>
-#include <utility>
-#include <vector>
+#include "richtext/font_fixing.h"
 
-#include "QZCore/platform/fonts.h"
-#include "richtext/attribute_fixing.h"
+#include <algorithm>
+#include <optional>
+#include <span>
+#include <utility>
+
+#include "foundation/unit_search.h"
 #include "richtext/attribute_names.h"
 
 namespace QZCore {
@@ -81,50 +82,58 @@ private:
     std::unordered_map<char32_t, std::uint32_t> found_;
 };
 
-/// The first position from `at` on, below `end`, whose unit is not ASCII.
-std::size_t firstBeyondAscii(StringView text, std::size_t at, std::size_t end) {
-    constexpr std::size_t kStep = 16;
-    for (; end - at >= kStep; at += kStep) {
-        char16_t all = 0;
-        for (std::size_t i = 0; i < kStep; ++i) all = static_cast<char16_t>(all | text[at + i]);
-        if (all >= 0x80) break;
-    }
-    while (at < end && text[at] < 0x80) ++at;
-    return at;
-}
+}  // namespace
 
-class FontFixer {
+class FontFixing::Impl {
 public:
-    FontFixer(FlatText& text, const FontCatalog& catalog) : text_(text), catalog_(catalog) {
-        fixed_.reserve(text.runs.size());
-    }
+    explicit Impl(const FontCatalog& catalog) : catalog_(catalog) {}
 
-    void fix() {
-        std::size_t start = 0;
-        for (const FlatRun& run : text_.runs) {
-            addRun(start, run);
+    void fix(FlatText& text) {
+        beyondAscii_ = findBeyondAscii(text.text, 0);
+        const auto wanting = std::ranges::find_if_not(
+            text.runs, [&, start = std::size_t{0}](const FlatRun& run) mutable {
+                return keepsFont(std::exchange(start, run.end), run, text);
+            });
+        if (wanting == text.runs.end()) return;
+        fixed_.assign(text.runs.begin(), wanting);
+        std::size_t start = fixed_.empty() ? 0 : fixed_.back().end;
+        for (const FlatRun& run : std::span(wanting, text.runs.end())) {
+            addRun(start, run, text);
             start = run.end;
         }
-        if (changed_) text_.runs = std::move(fixed_);
+        std::swap(text.runs, fixed_);
     }
 
 private:
-    void addRun(std::size_t start, const FlatRun& run) {
-        Substitutes* substitutes = substitutesFor(run.id);
-        if (substitutes == nullptr) return appendRun(fixed_, run.end, run.id);
-        const bool skipsAscii = substitutes->keepsAscii();
-        const StringView text = text_.text;
+    static std::size_t findBeyondAscii(StringView text, std::size_t from) {
+        return findFirst(text, from, [](auto unit) { return unit >= 0x80; });
+    }
+
+    /// Whether a run surely keeps its font: it has none or holds only ASCII
+    /// characters, which the font shows. Asked for ever later runs.
+    bool keepsFont(std::size_t start, const FlatRun& run, const FlatText& text) {
+        const Substitutes* substitutes = substitutesFor(run.id, text.palette);
+        if (substitutes == nullptr) return true;
+        if (!substitutes->keepsAscii()) return false;
+        if (beyondAscii_ < start) beyondAscii_ = findBeyondAscii(text.text, start);
+        return beyondAscii_ >= run.end;
+    }
+
+    void addRun(std::size_t start, const FlatRun& run, FlatText& flat) {
+        if (keepsFont(start, run, flat)) return appendRun(fixed_, run.end, run.id);
+        Substitutes& substitutes = *substitutesFor(run.id, flat.palette);
+        const StringView text = StringView(flat.text).substr(0, run.end);
         std::uint32_t id = run.id;
         while (start < run.end) {
-            const std::size_t end = skipsAscii ? firstBeyondAscii(text, start, run.end) : start;
+            const std::size_t end = substitutes.keepsAscii() ? findBeyondAscii(text, start) : start;
             appendRun(fixed_, static_cast<std::uint32_t>(end), run.id);
             if (end > start) id = run.id;
             if (end == run.end) return;
-            const CodePoint point = codePointAt(text.substr(0, run.end), end);
+            const CodePoint point = codePointAt(text, end);
             if (!joinsPrevious(point.value) || id == run.id) {
-                id = idInFont(run.id, substitutes->font(), substitutes->fontFor(point.value));
+                id = idInFont(run.id, substitutes.font(), substitutes.fontFor(point.value),
+                              flat.palette);
             }
-            changed_ |= id != run.id;
             start = end + point.length;
             appendRun(fixed_, static_cast<std::uint32_t>(start), id);
         }
@@ -132,9 +141,9 @@ private:
 
     /// The substitutes for the font of the attributes `id`; null when they have
     /// none.
-    Substitutes* substitutesFor(std::uint32_t id) {
-        if (id >= known_.size()) known_.resize(text_.palette.size());
-        if (!known_[id]) known_[id] = substitutesFor(text_.palette.at(id).font());
+    Substitutes* substitutesFor(std::uint32_t id, const AttributePalette& palette) {
+        if (id >= known_.size()) known_.resize(palette.size());
+        if (!known_[id]) known_[id] = substitutesFor(palette.at(id).font());
         return *known_[id];
     }
 
@@ -149,19 +158,19 @@ private:
     }
 
     /// The attributes `id`, whose font has the number `own`, in another font.
-    std::uint32_t idInFont(std::uint32_t id, std::uint32_t own, std::uint32_t font) {
+    std::uint32_t idInFont(std::uint32_t id, std::uint32_t own, std::uint32_t font,
+                           AttributePalette& palette) {
         if (font == own) return id;
         const std::uint64_t key = std::uint64_t{id} << 32 | font;
         const auto [at, isNew] = idsInFonts_.try_emplace(key, 0);
         if (isNew) {
-            const TextAttributes before = text_.palette.at(id);
-            at->second = text_.palette.idOf(
+            const TextAttributes before = palette.at(id);
+            at->second = palette.idOf(
                 before.withAttribute(attributeNames().font, Value::boxed(fonts_.at(font))));
         }
         return at->second;
     }
 
-    FlatText& text_;
     const FontCatalog& catalog_;
     FontNumbers fonts_;
     std::unordered_map<std::uint32_t, Substitutes> substitutes_;  // by the font's number
@@ -170,12 +179,13 @@ private:
     // Most sets share their font as an object.
     const Font* lastFont_ = nullptr;
     Substitutes* lastSubstitutes_ = nullptr;
+    std::size_t beyondAscii_ = 0;  // the next unit that is not ASCII
     std::vector<FlatRun> fixed_;
-    bool changed_ = false;
 };
 
-}  // namespace
+FontFixing::FontFixing(const FontCatalog& catalog) : impl_(std::make_unique<Impl>(catalog)) {}
+FontFixing::~FontFixing() = default;
 
-void fixFonts(FlatText& text, const FontCatalog& catalog) { FontFixer(text, catalog).fix(); }
+void FontFixing::fixFonts(FlatText& text) { impl_->fix(text); }
 
 }  // namespace QZCore

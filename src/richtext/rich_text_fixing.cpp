@@ -50,7 +50,8 @@ void RichText::fixAttributesInRange(Range range) {
     if (start == end || end - start >= kFlatTextLimit) return;
     const FlatText before = FlatTextAccess::flattened(*this, {start, end - start});
     FlatText fixed = before;
-    fixAttributes(fixed, *sharedFontCatalog());
+    const auto catalog = sharedFontCatalog();
+    AttributeFixing(*catalog).fixAttributes(fixed);
     if (fixed.runs == before.runs) return;
     const int depth = std::exchange(editingDepth_, 0);  // no edit to fix again
     std::size_t at = start;

@@ -9,6 +9,7 @@
 #include "QZCore/markdown.h"
 #include "QZCore/platform/images.h"
 #include "markdown/link_target.h"
+#include "markdown/rendering_in_parts.h"
 #include "support/font_scope.h"
 #include "support/markdown_settings.h"
 #include "support/printing.h"
@@ -287,13 +288,13 @@ private:
 // ---- Texts and settings -------------------------------------------------------
 
 constexpr StringView kPieces[] = {
-    u"*",       u"*",          u"**",     u"***",    u"_",      u"__",     u"___",
-    u"~~",      u"==",         u"^^",     u"::",     u"`",      u"`",      u"``",
-    u"```",     u"```\n",      u"\n```",  u"\n",     u"\n",     u"\n# ",   u"\n### ",
-    u"\n>",     u"\n> ",       u"[",      u"](",     u"](c)",   u"[a](b)", u"![a",
-    u"!",       u"a",          u"b",      u"a",      u" ",      u"\\",     u"\\*",
-    u"\\_",     u"\\[",        u"@",      u":a:",    u":",      u"\r\n",   u"smile",
-    u":heart:", u"\U0001F600", u"\xD83D", u"\xDE00", u"\u2028", u"\u0301", u"<a|b>",
+    u"*",     u"*",      u"**",      u"***",        u"_",      u"__",     u"___",    u"~~",
+    u"==",    u"^^",     u"::",      u"`",          u"`",      u"``",     u"```",    u"```\n",
+    u"\n```", u"\n",     u"\n",      u"\n# ",       u"\n### ", u"\n>",    u"\n> ",   u"[",
+    u"](",    u"](c)",   u"[a](b)",  u"![a",        u"!",      u"a",      u"b",      u"a",
+    u" ",     u"\\",     u"\\*",     u"\\_",        u"\\[",    u"@",      u":a:",    u":",
+    u"\r\n",  u"smile",  u":heart:", u"\U0001F600", u"\xD83D", u"\xDE00", u"\u2028", u"\u0301",
+    u"<a|b>", u"a\n\nb", u"a\n\nb",  u"\n\n",       u".\n\n",  u"(",      u")",
 };
 
 constexpr const char* kSettings[] = {
@@ -366,8 +367,10 @@ TEST_CASE("a note renders as its rules say when they are carried out one by one"
             const RichText note = notes.next();
             const RichText expected = PlainRendering(note, settings).result();
             RichText rendered = note;
+            // Cut as often as a note of that length can be, or not at all.
+            const std::size_t partLength = i % 2 == 0 ? 1 : note.length();
             renderContainedMarkdownWithStyles(rendered, settings.styles(), settings.syntax(),
-                                              settings.preferences());
+                                              settings.preferences(), partLength);
             changed += rendered.string() == note.string() ? 0 : 1;
             if (rendered == expected) continue;
             CAPTURE(qznote::runLines(note));

@@ -1,0 +1,95 @@
+#include "richtext/paragraph_fixing.h"
+
+#include <utility>
+
+#include "foundation/unit_search.h"
+#include "richtext/attribute_names.h"
+
+namespace QZCore {
+
+bool paragraphEndsBefore(StringView text, std::size_t position) {
+    const char16_t last = text[position - 1];
+    if (last == u'\r') return position == text.size() || text[position] != u'\n';
+    return last == u'\n' || last == 0x2029;
+}
+
+namespace {
+
+/// The end of the paragraph that is open at `from`, at most `limit`.
+std::size_t paragraphEnd(StringView text, std::size_t from, std::size_t limit) {
+    const auto mayEnd = [](auto c) { return (c == u'\n') | (c == u'\r') | (c == 0x2029); };
+    const StringView part = text.substr(0, limit);
+    while ((from = findFirst(part, from, mayEnd)) < limit) {
+        if (paragraphEndsBefore(text, ++from)) break;
+    }
+    return from;
+}
+
+}  // namespace
+
+/// Makes the runs of the fixed text one after the other. The open paragraph
+/// goes on until a run ends with its last character.
+class ParagraphFixing::Walk {
+public:
+    Walk(ParagraphFixing& fixing, FlatText& text) : fixing_(fixing), text_(text) {
+        fixed_.reserve(text.runs.size());
+    }
+
+    void fix() {
+        for (const FlatRun& run : text_.runs) add(run);
+        if (changed_) text_.runs = std::move(fixed_);
+    }
+
+private:
+    void add(const FlatRun& run) {
+        const std::uint32_t style = fixing_.styleOf(run.id, text_.palette);
+        if (style != openStyle_ && at_ > 0 && !paragraphEndsBefore(text_.text, at_)) {
+            changed_ = true;
+            at_ = static_cast<std::uint32_t>(paragraphEnd(text_.text, at_, run.end));
+            appendRun(fixed_, at_, fixing_.withStyle(run.id, openStyle_, text_.palette));
+            if (at_ == run.end) return;
+        }
+        openStyle_ = style;
+        appendRun(fixed_, run.end, run.id);
+        at_ = run.end;
+    }
+
+    ParagraphFixing& fixing_;
+    FlatText& text_;
+    std::vector<FlatRun> fixed_;
+    std::uint32_t at_ = 0;
+    std::uint32_t openStyle_ = kNoStyle;  // of the open paragraph
+    bool changed_ = false;
+};
+
+void ParagraphFixing::fixParagraphStyles(FlatText& text) { Walk(*this, text).fix(); }
+
+/// The number of the paragraph style that the attributes `id` hold.
+std::uint32_t ParagraphFixing::styleOf(std::uint32_t id, const AttributePalette& palette) {
+    if (id >= styleOf_.size()) styleOf_.resize(palette.size(), kUnknown);
+    std::uint32_t& style = styleOf_[id];
+    if (style == kUnknown) style = numberOf(palette.at(id).paragraphStyle());
+    return style;
+}
+
+std::uint32_t ParagraphFixing::numberOf(const ParagraphStyle* style) {
+    if (style == nullptr) return kNoStyle;
+    const auto next = static_cast<std::uint32_t>(styles_.size());
+    const auto [at, isNew] = numbers_.try_emplace(style, next);
+    if (isNew) {
+        styles_.push_back(Value::boxed(*style));
+        changed_.emplace_back();
+    }
+    return at->second;
+}
+
+/// The attributes `id` with another paragraph style.
+std::uint32_t ParagraphFixing::withStyle(std::uint32_t id, std::uint32_t style,
+                                         AttributePalette& palette) {
+    return changed_[style](id, [&](std::uint32_t old) {
+        const TextAttributes before = palette.at(old);
+        return palette.idOf(before.withAttribute(attributeNames().paragraphStyle, styles_[style]));
+    });
+}
+
+}  // namespace QZCore
