@@ -27,6 +27,7 @@ std::uint32_t hashOfKey(StringView key) { return static_cast<std::uint32_t>(hash
 }  // namespace
 
 Dictionary::Dictionary(std::initializer_list<DictionaryEntry> entries) {
+    entries_.reserve(entries.size());
     for (const DictionaryEntry& entry : entries) setObject(entry.value, entry.key);
 }
 

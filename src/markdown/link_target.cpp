@@ -18,6 +18,8 @@ String withoutEscapes(StringView text) {
 }
 
 std::optional<URL> urlForTarget(StringView target) {
+    // A URL holds no backslash, so one without escapes stays as it is.
+    if (auto url = URL::fromString(target)) return url;
     const String plain = withoutEscapes(target);
     if (auto url = URL::fromString(plain)) return url;
     return URL::fromString(percentEncoded(toUTF8(plain), kQueryBytes));

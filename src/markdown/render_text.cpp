@@ -18,14 +18,16 @@ bool isIgnored(std::uint32_t id) { return (id & kIgnoreMark) != 0; }
 /// deletions leave as it goes.
 class RenderText::Sweep {
 public:
-    explicit Sweep(RenderText& text)
+    /// The edits divide runs so often at most: a deletion never does, other
+    /// attributes do at both ends.
+    explicit Sweep(RenderText& text, std::size_t divisions = 0)
         : text_(text),
           live_(text.flat_.text.data()),
           copy_(text.copyDiffers_ ? text.searchCopy_.data() : nullptr),
           run_(text.flat_.runs.data()),
           runAhead_(run_) {
-        text_.sweptRuns_.clear();
-        text_.sweptRuns_.reserve(text.flat_.runs.size() + 2 * text.matches_.size() + 1);
+        text_.sweptRuns_.resize(text.flat_.runs.size() + divisions);
+        first_ = end_ = text_.sweptRuns_.data();
     }
 
     /// The number of the attributes at `position`, which lies ahead of the walk
@@ -37,12 +39,31 @@ public:
 
     /// Moves on to `end` and keeps what lies before it.
     void keepUpTo(std::uint32_t end) {
-        keepUpTo(end, [](std::uint32_t id) { return id; });
+        if (read_ >= end) return;
+        moveUnits(end);
+        while (run_->end <= read_) ++run_;
+        const std::uint32_t gap = read_ - write_;
+        read_ = end;
+        write_ = end - gap;
+        if (run_->end >= end) return addRun(write_, run_->id);
+        addRun(run_->end - gap, run_->id);
+        // Neighbours that were different stay so.
+        while ((++run_)->end < end) *end_++ = {run_->end - gap, run_->id};
+        *end_++ = {write_, run_->id};
     }
 
     /// The same with attributes added.
     void keepUpTo(std::uint32_t end, AddedAttributes& added) {
-        keepUpTo(end, [&](std::uint32_t id) { return added.over(id, text_.flat_.palette); });
+        if (read_ >= end) return;
+        moveUnits(end);
+        while (run_->end <= read_) ++run_;
+        const std::uint32_t gap = read_ - write_;
+        read_ = end;
+        write_ = end - gap;
+        for (; run_->end < end; ++run_) {
+            addRun(run_->end - gap, added.over(run_->id, text_.flat_.palette));
+        }
+        addRun(write_, added.over(run_->id, text_.flat_.palette));
     }
 
     /// Moves on to `end` and deletes what lies before it.
@@ -50,10 +71,11 @@ public:
 
     /// Adds text that was not there, no longer than what was deleted before.
     void insert(StringView text, std::uint32_t id) {
+        if (text.empty()) return;
         text.copy(live_ + write_, text.size());
         if (copy_ != nullptr) text.copy(copy_ + write_, text.size());
         write_ += static_cast<std::uint32_t>(text.size());
-        appendRun(text_.sweptRuns_, write_, id);
+        addRun(write_, id);
     }
 
     /// Keeps the rest of the text and puts the result in place.
@@ -61,28 +83,27 @@ public:
         keepUpTo(static_cast<std::uint32_t>(text_.flat_.text.size()));
         text_.flat_.text.resize(write_);
         if (copy_ != nullptr) text_.searchCopy_.resize(write_);
+        text_.sweptRuns_.resize(static_cast<std::size_t>(end_ - first_));
         std::swap(text_.flat_.runs, text_.sweptRuns_);
     }
 
 private:
-    template <class NewId>
-    void keepUpTo(std::uint32_t end, NewId newId) {
-        if (read_ >= end) return;
+    void moveUnits(std::uint32_t end) {
+        if (read_ == write_) return;
         const std::uint32_t length = end - read_;
-        if (read_ != write_) {
-            std::char_traits<char16_t>::move(live_ + write_, live_ + read_, length);
-            if (copy_ != nullptr) {
-                std::char_traits<char16_t>::move(copy_ + write_, copy_ + read_, length);
-            }
+        std::char_traits<char16_t>::move(live_ + write_, live_ + read_, length);
+        if (copy_ != nullptr) {
+            std::char_traits<char16_t>::move(copy_ + write_, copy_ + read_, length);
         }
-        while (run_->end <= read_) ++run_;
-        const std::uint32_t gap = read_ - write_;
-        for (; run_->end < end; ++run_) {
-            appendRun(text_.sweptRuns_, run_->end - gap, newId(run_->id));
+    }
+
+    /// Adds a run, or lets the last one grow when it has the same attributes.
+    void addRun(std::uint32_t end, std::uint32_t id) {
+        if (end_ != first_ && end_[-1].id == id) {
+            end_[-1].end = end;
+        } else {
+            *end_++ = {end, id};
         }
-        appendRun(text_.sweptRuns_, end - gap, newId(run_->id));
-        read_ = end;
-        write_ = end - gap;
     }
 
     RenderText& text_;
@@ -90,6 +111,8 @@ private:
     char16_t* copy_;
     const FlatRun* run_;
     const FlatRun* runAhead_;
+    FlatRun* first_;  // of the runs made
+    FlatRun* end_;
     std::uint32_t read_ = 0;
     std::uint32_t write_ = 0;
 };
@@ -118,6 +141,7 @@ void RenderText::renumber(NewId newId) {
 
 const std::vector<SpanMatch>& RenderText::find(const MarkdownExpression& expression) {
     matches_.clear();
+    matches_.reserve(64);
     findMatches(expression, searchCopy(), matches_);
     // A pattern of the user's own may match without taking a character.
     std::erase_if(matches_,
@@ -137,7 +161,7 @@ std::vector<bool> RenderText::ignoredMatches() const {
 
 void RenderText::apply(MatchEditor& editor) {
     if (matches_.empty()) return;
-    Sweep sweep(*this);
+    Sweep sweep(*this, 2 * matches_.size());
     for (const SpanMatch& match : matches_) {
         const std::uint32_t id = sweep.idAhead(match.whole.start);
         if (isIgnored(id)) continue;

@@ -14,16 +14,17 @@ public:
     Styles(const Dictionary* defaultStyle, const Dictionary* userStyle)
         : default_(defaultStyle), user_(userStyle) {}
 
-    [[nodiscard]] Value valueFor(StringView key) const {
+    [[nodiscard]] const Value& valueFor(StringView key) const {
+        static const Value& none = *new Value;
         const Value* value = user_ == nullptr ? nullptr : user_->find(key);
         if (value == nullptr && default_ != nullptr) value = default_->find(key);
-        return value == nullptr ? Value() : *value;
+        return value == nullptr ? none : *value;
     }
 
     [[nodiscard]] bool isOn(StringView key) const { return valueFor(key).boolValue(); }
 
     [[nodiscard]] std::optional<double> number(StringView key) const {
-        const Value value = valueFor(key);
+        const Value& value = valueFor(key);
         const double number = value.doubleValue();
         if (value.isAbsent() || !std::isfinite(number)) return std::nullopt;
         return number;
@@ -48,7 +49,7 @@ std::optional<Font> resolvedFont(const Styles& styles, const Font& baseFont) {
     const FontManager fonts = FontManager::shared();
     const double size = styles.number(kStyleFontSize).value_or(0);
     std::optional<Font> font;
-    if (const Value family = styles.valueFor(kStyleFontFamily); !family.isAbsent()) {
+    if (const Value& family = styles.valueFor(kStyleFontFamily); !family.isAbsent()) {
         const double familySize = size > 0 ? size : baseFont.pointSize;
         font = fontOfFamily(fonts, family.stringValue(), familySize, baseFont);
     }
@@ -58,6 +59,13 @@ std::optional<Font> resolvedFont(const Styles& styles, const Font& baseFont) {
         if (styles.isOn(key)) font = fonts.convertFontToHaveTrait(font.value_or(baseFont), trait);
     }
     return font;
+}
+
+/// One object for all styles that leave the paragraph as it is, so that it is
+/// soon compared.
+Value valueOf(const ParagraphStyle& style) {
+    static const Value& unchanged = *new Value(Value::boxed(ParagraphStyle{}));
+    return style == ParagraphStyle{} ? unchanged : Value::boxed(style);
 }
 
 ParagraphStyle resolvedParagraphStyle(const Styles& styles) {
@@ -99,7 +107,7 @@ TextAttributes fontAttributesWithDefaultStyle(const Dictionary* defaultStyle,
     }
     if (styles.isOn(kStyleFontUnderline)) add(names.underlineStyle, 1);
     if (styles.isOn(kStyleFontStrikethrough)) add(names.strikethroughStyle, 1);
-    add(names.paragraphStyle, Value::boxed(resolvedParagraphStyle(styles)));
+    add(names.paragraphStyle, valueOf(resolvedParagraphStyle(styles)));
     return TextAttributes(std::move(attributes));
 }
 

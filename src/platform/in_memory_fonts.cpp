@@ -29,9 +29,9 @@ public:
         return names;
     }
 
-    [[nodiscard]] std::vector<FontMember> membersOfFamily(StringView name) const override {
+    [[nodiscard]] const std::vector<FontMember>& membersOfFamily(StringView name) const override {
         const InMemoryFontFamily* family = familyNamed(name);
-        return family == nullptr ? std::vector<FontMember>() : family->members;
+        return family == nullptr ? noMembers_ : family->members;
     }
 
     [[nodiscard]] std::optional<Font> fontNamed(StringView name, double size) const override {
@@ -113,6 +113,7 @@ private:
     }
 
     std::vector<InMemoryFontFamily> families_;
+    const std::vector<FontMember> noMembers_;
 };
 
 void dropUnusable(std::vector<InMemoryFontFamily>& families) {

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <limits>
+#include <unordered_map>
 
 #include "platform/font_choice.h"
 #include "platform/machine_fonts.h"
@@ -28,11 +29,21 @@ const InstalledFace* userFaceOf(const FontList& list, FcConfig* config) {
     return face == nullptr ? &list.faces().front() : face;
 }
 
+using MembersByFamily = std::unordered_map<StringView, std::vector<FontMember>>;
+
+/// The keys point into the list.
+MembersByFamily membersOf(const FontList& list) {
+    MembersByFamily members;
+    for (const InstalledFace& face : list.faces()) members[face.family].push_back(face.member);
+    return members;
+}
+
 class MachineFontCatalog final : public FontCatalog {
 public:
     MachineFontCatalog()
         : config_(FcConfigReference(nullptr)),
           list_(config_.get()),
+          members_(membersOf(list_)),
           userFace_(userFaceOf(list_, config_.get())),
           substitutes_(list_, config_.get()),
           widths_(list_, substitutes_, config_.get()) {}
@@ -45,10 +56,9 @@ public:
         return names;
     }
 
-    [[nodiscard]] std::vector<FontMember> membersOfFamily(StringView family) const override {
-        std::vector<FontMember> members;
-        for (const InstalledFace& face : list_.facesOf(family)) members.push_back(face.member);
-        return members;
+    [[nodiscard]] const std::vector<FontMember>& membersOfFamily(StringView family) const override {
+        const auto members = members_.find(family);
+        return members == members_.end() ? noMembers_ : members->second;
     }
 
     [[nodiscard]] std::optional<Font> fontNamed(StringView name, double size) const override {
@@ -107,6 +117,8 @@ private:
 
     const OwnedFcConfig config_;
     const FontList list_;
+    const MembersByFamily members_;
+    const std::vector<FontMember> noMembers_;
     const InstalledFace* const userFace_;
     const FontSubstitutes substitutes_;
     const FontWidths widths_;

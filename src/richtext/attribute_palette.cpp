@@ -52,7 +52,7 @@ std::uint32_t AttributePalette::add(const TextAttributes& attributes) {
 }
 
 void AttributePalette::growSlots() {
-    std::vector<std::uint32_t> old(slots_.empty() ? 4 : slots_.size() * 2, kNone);
+    std::vector<std::uint32_t> old(slots_.empty() ? 16 : slots_.size() * 2, kNone);
     old.swap(slots_);
     for (const std::uint32_t id : old) {
         if (id != kNone) slots_[slotOf(entries_[id])] = id;

@@ -53,7 +53,7 @@ double FontManager::widthOfText(StringView text, const Font& font) const {
 }
 
 Font FontManager::convertFontToFamily(const Font& font, StringView family) const {
-    const std::vector<FontMember> members = catalog_->membersOfFamily(family);
+    const std::vector<FontMember>& members = catalog_->membersOfFamily(family);
     if (members.empty()) return font;
     const FontMember& nearest = nearestMember(members, {font.traits, font.weight});
     return fontOfMember(family, nearest, font.pointSize);
@@ -76,7 +76,7 @@ Font FontManager::convertFontToHaveTrait(const Font& font, std::uint32_t traits)
     if (((wanted ^ font.traits) & kFontBold) != 0) {
         weight = (wanted & kFontBold) != 0 ? kBoldWeight : kFontRegularWeight;
     }
-    const std::vector<FontMember> members = catalog_->membersOfFamily(font.familyName);
+    const std::vector<FontMember>& members = catalog_->membersOfFamily(font.familyName);
     const FontMember* nearest = leastDistantMember(members, [&](const FontMember& member) {
         return member.traits == wanted ? std::abs(member.weight - weight) : -1;
     });
@@ -84,7 +84,7 @@ Font FontManager::convertFontToHaveTrait(const Font& font, std::uint32_t traits)
 }
 
 Font FontManager::convertFontToLighterWeight(const Font& font) const {
-    const std::vector<FontMember> members = catalog_->membersOfFamily(font.familyName);
+    const std::vector<FontMember>& members = catalog_->membersOfFamily(font.familyName);
     const FontMember* lighter = leastDistantMember(members, [&font](const FontMember& member) {
         const bool sameSlant = ((member.traits ^ font.traits) & kFontItalic) == 0;
         return sameSlant && member.weight < font.weight ? font.weight - member.weight : -1;

@@ -1,6 +1,7 @@
 #include "richtext/font_fixing.h"
 
 #include <algorithm>
+#include <deque>
 #include <optional>
 #include <span>
 #include <utility>
@@ -30,21 +31,24 @@ class FontNumbers {
 public:
     /// The number of `font`, given now if it had none.
     std::uint32_t operator()(const Font& font) {
-        const auto next = static_cast<std::uint32_t>(fonts_.size());
-        const auto [at, isNew] = numbers_.try_emplace(font, next);
-        if (isNew) fonts_.push_back(font);
-        return at->second;
+        if (const auto known = numbers_.find(&font); known != numbers_.end()) return known->second;
+        fonts_.push_back(font);
+        const auto number = static_cast<std::uint32_t>(numbers_.size());
+        numbers_.emplace(&fonts_.back(), number);
+        return number;
     }
 
     [[nodiscard]] const Font& at(std::uint32_t number) const { return fonts_[number]; }
 
 private:
-    struct Hash {
-        std::size_t operator()(const Font& font) const { return hashOf(font); }
+    /// Fonts of equal content are one.
+    struct SameFont {
+        bool operator()(const Font* a, const Font* b) const { return *a == *b; }
+        std::size_t operator()(const Font* font) const { return hashOf(*font); }
     };
 
-    std::unordered_map<Font, std::uint32_t, Hash> numbers_;
-    std::vector<Font> fonts_;
+    std::deque<Font> fonts_;  // never move
+    std::unordered_map<const Font*, std::uint32_t, SameFont, SameFont> numbers_;
 };
 
 /// For one font: the number of the font that each character takes.

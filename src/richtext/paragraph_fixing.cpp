@@ -74,13 +74,16 @@ std::uint32_t ParagraphFixing::styleOf(std::uint32_t id, const AttributePalette&
 
 std::uint32_t ParagraphFixing::numberOf(const ParagraphStyle* style) {
     if (style == nullptr) return kNoStyle;
+    if (style == last_) return lastNumber_;
     const auto next = static_cast<std::uint32_t>(styles_.size());
     const auto [at, isNew] = numbers_.try_emplace(style, next);
     if (isNew) {
         styles_.push_back(Value::boxed(*style));
         changed_.emplace_back();
     }
-    return at->second;
+    last_ = style;
+    lastNumber_ = at->second;
+    return lastNumber_;
 }
 
 /// The attributes `id` with another paragraph style.

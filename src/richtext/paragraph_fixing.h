@@ -41,6 +41,9 @@ private:
     static constexpr std::uint32_t kNoStyle = 0;
 
     std::unordered_map<const ParagraphStyle*, std::uint32_t, SameStyle, SameStyle> numbers_;
+    // Most sets share their style as an object.
+    const ParagraphStyle* last_ = nullptr;
+    std::uint32_t lastNumber_ = kNoStyle;
     std::vector<Value> styles_{Value()};           // by their numbers
     std::vector<NumberMap> changed_{NumberMap()};  // by the number of the style put in
     std::vector<std::uint32_t> styleOf_;           // by the number of the attributes

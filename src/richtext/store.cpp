@@ -49,7 +49,10 @@ void RichText::Store::append(StringView text, std::span<const FlatRun> runs) {
     for (std::size_t start = 0; start < text.size(); start += Piece::kFill) {
         const StringView part = text.substr(start, Piece::kFill);
         const std::size_t end = start + part.size();
-        std::vector<PieceRun> partRuns{{0, runs[run].id}};
+        const auto last = std::ranges::lower_bound(runs.subspan(run), end, {}, &FlatRun::end);
+        std::vector<PieceRun> partRuns;
+        partRuns.reserve(static_cast<std::size_t>(last - runs.subspan(run).begin()) + 1);
+        partRuns.push_back({0, runs[run].id});
         for (; runs[run].end < end; ++run) {
             const auto runStart = static_cast<std::uint32_t>(runs[run].end - start);
             partRuns.push_back({runStart, runs[run + 1].id});

@@ -102,14 +102,11 @@ void normalise(std::vector<TextAttribute>& entries) {
     if (!std::ranges::is_sorted(entries, {}, nameOf)) {
         std::ranges::stable_sort(entries, {}, nameOf);
     }
-    std::vector<TextAttribute> kept;
-    kept.reserve(entries.size());
-    for (TextAttribute& entry : entries) {
-        if (!kept.empty() && kept.back().name == entry.name) kept.pop_back();
-        kept.push_back(std::move(entry));
-    }
-    std::erase_if(kept, [](const TextAttribute& entry) { return entry.value.isAbsent(); });
-    entries = std::move(kept);
+    // Of equal names the first in reverse order is the last.
+    const auto kept = std::unique(entries.rbegin(), entries.rend(),
+                                  [](const auto& a, const auto& b) { return a.name == b.name; });
+    entries.erase(entries.begin(), kept.base());
+    std::erase_if(entries, [](const TextAttribute& entry) { return entry.value.isAbsent(); });
 }
 
 }  // namespace

@@ -47,13 +47,7 @@ public:
     }
 
     /// The type's own hash where it has one; else the same for all values.
-    [[nodiscard]] std::size_t hash() const override {
-        if constexpr (requires { hashOf(value); }) {
-            return hashOf(value);
-        } else {
-            return 0;
-        }
-    }
+    [[nodiscard]] std::size_t hash() const override { return hash_; }
 
     /// The type's own description where it has one.
     [[nodiscard]] String description() const override {
@@ -63,6 +57,17 @@ public:
             return Object::description();
         }
     }
+
+private:
+    static std::size_t hashOfValue(const T& value) {
+        if constexpr (requires { hashOf(value); }) {
+            return hashOf(value);
+        } else {
+            return 0;
+        }
+    }
+
+    const std::size_t hash_ = hashOfValue(value);
 };
 
 }  // namespace QZCore

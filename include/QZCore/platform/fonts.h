@@ -91,8 +91,10 @@ public:
     /// The faces of `family` in a fixed order: faces of normal width first,
     /// among them the upright ones first, among those the regular one first.
     /// Empty when the family is not installed. Faces that would only be
-    /// imitated (a slanted regular face, say) are not listed.
-    [[nodiscard]] virtual std::vector<FontMember> membersOfFamily(StringView family) const = 0;
+    /// imitated (a slanted regular face, say) are not listed. Valid as long as
+    /// the catalogue.
+    [[nodiscard]] virtual const std::vector<FontMember>& membersOfFamily(
+        StringView family) const = 0;
 
     /// The face whose unique name is `name` or else the one whose full name it
     /// is, at `size`; nothing when there is none.
