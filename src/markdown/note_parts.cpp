@@ -105,17 +105,19 @@ std::size_t lastCut(StringView text) {
     }
 }
 
-std::vector<FlatText> notePartsOf(const RichText& text, const MarkdownSyntax& syntax,
+std::vector<FlatText> notePartsOf(const NoteSource& note, const MarkdownSyntax& syntax,
                                   AttributePalette& palette, std::size_t partLength) {
+    constexpr std::size_t kGrowth = 8;
     std::vector<FlatText> parts;
-    std::size_t wanted = hasOwnLinkPattern(syntax) ? text.length() : partLength;
-    for (std::size_t start = 0; start < text.length();) {
-        FlatText part = FlatTextAccess::flattened(text, {start, wanted}, std::move(palette));
+    const std::size_t length = note.length();
+    std::size_t wanted = hasOwnLinkPattern(syntax) ? length : partLength;
+    for (std::size_t start = 0; start < length;) {
+        FlatText part = note.part({start, wanted}, std::move(palette));
         palette = std::move(part.palette);
-        if (start + part.text.size() < text.length()) {
+        if (start + part.text.size() < length) {
             const std::size_t cut = lastCut(part.text);
             if (cut == 0) {
-                wanted *= 2;
+                wanted *= kGrowth;
                 continue;
             }
             cutAt(cut, part);

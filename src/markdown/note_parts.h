@@ -25,10 +25,22 @@ inline constexpr std::size_t kNotePartLength = std::size_t{1} << 16;
 /// that the removal of code fences would open.
 [[nodiscard]] std::size_t lastCut(StringView text);
 
-/// The parts of `text`, the first ones first. Their runs are numbered by
+/// Where a note comes from.
+class NoteSource {
+public:
+    virtual ~NoteSource() = default;
+    [[nodiscard]] virtual std::size_t length() const = 0;
+    /// The attributes of the first character.
+    [[nodiscard]] virtual TextAttributes firstAttributes() const = 0;
+    /// The part in `range`, as far as there is one, numbered by `palette`.
+    [[nodiscard]] virtual FlatText part(Range range, AttributePalette palette) const = 0;
+};
+
+/// The parts of a note, the first ones first. Their runs are numbered by
 /// `palette`. With a link pattern of the user, whose matches may reach
-/// anywhere, the text is one part.
-[[nodiscard]] std::vector<FlatText> notePartsOf(const RichText& text, const MarkdownSyntax& syntax,
+/// anywhere, the note is one part.
+[[nodiscard]] std::vector<FlatText> notePartsOf(const NoteSource& note,
+                                                const MarkdownSyntax& syntax,
                                                 AttributePalette& palette,
                                                 std::size_t partLength = kNotePartLength);
 

@@ -55,12 +55,12 @@ TextAttributes bodyStyle(RenderingContext& context, const TextAttributes& first)
 /// Renders the parts of one note, in any order.
 class NoteRenderer {
 public:
-    NoteRenderer(const RichText& text, const StyleSheet& styles, const MarkdownSyntax& syntax,
+    NoteRenderer(const NoteSource& note, const StyleSheet& styles, const MarkdownSyntax& syntax,
                  const Preferences& preferences)
         : syntax_(syntax),
           catalog_(sharedFontCatalog()),
           context_{text_, styles, preferences, catalog_->userFont(kDefaultFontSize)},
-          body_(bodyStyle(context_, text.attributesAtIndex(0))),
+          body_(bodyStyle(context_, note.firstAttributes())),
           fixing_(*catalog_) {}
 
     /// Renders `part`, whose runs are numbered by `palette`.
@@ -92,19 +92,62 @@ private:
     std::array<Pass, kPasses.size()> passes_;
 };
 
+/// A rich text.
+class RichNote final : public NoteSource {
+public:
+    explicit RichNote(const RichText& text) : text_(text) {}
+
+    std::size_t length() const override { return text_.length(); }
+    TextAttributes firstAttributes() const override { return text_.attributesAtIndex(0); }
+    FlatText part(Range range, AttributePalette palette) const override {
+        return FlatTextAccess::flattened(text_, range, std::move(palette));
+    }
+
+private:
+    const RichText& text_;
+};
+
+/// A plain string with one set of attributes.
+class PlainNote final : public NoteSource {
+public:
+    PlainNote(StringView text, const TextAttributes& attributes)
+        : text_(text), attributes_(attributes) {}
+
+    std::size_t length() const override { return text_.size(); }
+    TextAttributes firstAttributes() const override { return attributes_; }
+    FlatText part(Range range, AttributePalette palette) const override {
+        FlatText flat{String(text_.substr(range.location, range.length)), {}, std::move(palette)};
+        const std::uint32_t id = flat.palette.idOf(attributes_);
+        appendRun(flat.runs, static_cast<std::uint32_t>(flat.text.size()), id);
+        return flat;
+    }
+
+private:
+    StringView text_;
+    const TextAttributes& attributes_;
+};
+
+/// Replaces the contents of `text` by the rendered note, which may be `text`.
+void render(const NoteSource& note, const StyleSheet& styles, const MarkdownSyntax& syntax,
+            const Preferences& preferences, std::size_t partLength, RichText& text) {
+    AttributePalette palette;
+    std::vector<FlatText> parts = notePartsOf(note, syntax, palette, partLength);
+    NoteRenderer renderer(note, styles, syntax, preferences);
+    // From the last to the first, as the matches of a pass are visited: images
+    // are fetched in that order.
+    for (std::size_t i = parts.size(); i-- > 0;) renderer.render(parts[i], palette);
+    FlatTextAccess::replaceContents(text, std::move(parts), std::move(palette));
+}
+
+bool isRenderable(std::size_t length) { return length > 0 && length < kFlatTextLimit; }
+
 }  // namespace
 
 void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles,
                                        const MarkdownSyntax& syntax, const Preferences& preferences,
                                        std::size_t partLength) {
-    if (text.empty() || text.length() >= kFlatTextLimit) return;
-    AttributePalette palette;
-    std::vector<FlatText> parts = notePartsOf(text, syntax, palette, partLength);
-    NoteRenderer renderer(text, styles, syntax, preferences);
-    // From the last to the first, as the matches of a pass are visited: images
-    // are fetched in that order.
-    for (std::size_t i = parts.size(); i-- > 0;) renderer.render(parts[i], palette);
-    FlatTextAccess::replaceContents(text, std::move(parts), std::move(palette));
+    if (!isRenderable(text.length())) return;
+    render(RichNote(text), styles, syntax, preferences, partLength, text);
 }
 
 void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles,
@@ -120,8 +163,10 @@ void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles)
 void renderContainedMarkdown(RichText& text) { renderContainedMarkdownWithStyles(text, {}); }
 
 RichText attributedStringWithMarkdown(StringView string, const TextAttributes& attributes) {
-    RichText text(string, attributes);
-    renderContainedMarkdown(text);
+    if (!isRenderable(string.size())) return RichText(string, attributes);
+    RichText text;
+    render(PlainNote(string, attributes), {}, allMarkdownRegex(), Preferences::shared(),
+           kNotePartLength, text);
     return text;
 }
 

@@ -37,21 +37,4 @@ TEST_CASE("a note is cut at the last blank line that no construct reaches across
     }
 }
 
-TEST_CASE("parts follow each other without a gap, and their runs cover them") {
-    const MarkdownSyntax& syntax = allMarkdownRegex();
-    RichText text;
-    for (int i = 0; i < 50; ++i) {
-        text.appendAttributedString(
-            RichText(u"Some text", {{NSUnderlineStyleAttributeName, i % 3}}));
-        text.appendAttributedString(RichText(u" and more.\n\n", {}));
-    }
-    AttributePalette palette;
-    const auto parts = notePartsOf(text, syntax, palette, 60);
-    CHECK(parts.size() > 10);
-    RichText joined;
-    FlatTextAccess::replaceContents(joined, parts, palette);
-    CHECK(joined == text);
-    for (const FlatText& part : parts) CHECK(part.runs.back().end == part.text.size());
-}
-
 }  // namespace QZCore
