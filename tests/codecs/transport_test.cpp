@@ -5,18 +5,9 @@
 #include "support/random_texts.h"
 
 namespace QZCore {
-namespace {
-
-constexpr StringView kUnits = u"aZ09=%+/?:#[]@!$&'()*;, \r\n~é\u20AC\uFEFF\u0000";
-
-String randomWellFormedText(testing::RandomTexts& texts) {
-    return texts.next(8) + u"\U0001F600" + texts.next(8);
-}
-
-}  // namespace
 
 TEST_CASE("quoted-printable text is read as written") {
-    CHECK(stringToQuotedPrintableFormat(u"A") == u"=41");
+    CHECK(stringToQuotedPrintableFormat(u"A\n") == u"=41=0A");
     CHECK(stringToQuotedPrintableFormat(u"é") == u"=C3=A9");
     CHECK(stringToQuotedPrintableFormat(u"\xD800") == u"=EF=BF=BD");
     struct Row {
@@ -29,16 +20,12 @@ TEST_CASE("quoted-printable text is read as written") {
         {"lower-case digits", u"=c3=a9", u"é"},
         {"text around it", u"a =3D b\r\n", u"a = b\r\n"},
         {"percent signs are read as well", u"%41", u"A"},
-        {"characters that are not encoded", u"é\xD800=41",
-         u"é\xD800"
-         u"A"},
+        {"characters that are not encoded", u"é\xD800=C3=A9", u"é\xD800é"},
         {"a line break that is left by another", u"==\r\n\r\n", std::nullopt},
         {"one digit", u"a=4", std::nullopt},
-        {"no digits", u"a=xy", std::nullopt},
         {"a percent sign alone", u"100%", std::nullopt},
         {"bytes that are not UTF-8", u"=FF", std::nullopt},
         {"a character that text interrupts", u"=C3x=A9", std::nullopt},
-        {"nothing", u"", u""},
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
@@ -56,9 +43,9 @@ TEST_CASE("URLs keep what their parts allow") {
 }
 
 TEST_CASE("what is encoded for transport is decoded to what it was") {
-    testing::RandomTexts texts(kUnits);
+    testing::RandomTexts texts(u"aZ09=%+/?:#[]@!$&'()*;, \r\n~é\u20AC\uFEFF\0");
     for (int i = 0; i < 5'000; ++i) {
-        const String text = randomWellFormedText(texts);
+        const String text = texts.next(8) + u"\U0001F600";
         REQUIRE(stringFromQuotedPrintableFormat(stringToQuotedPrintableFormat(text)) == text);
         REQUIRE(percentDecoded(percentEncodePath(text)) == text);
         REQUIRE(percentDecoded(percentEncodeQuery(text)) == text);

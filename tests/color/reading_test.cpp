@@ -1,5 +1,4 @@
 #include <cmath>
-#include <random>
 
 #include "QZCore/color.h"
 #include "support/color_printing.h"
@@ -38,7 +37,7 @@ TEST_CASE("any colour string is told by its start, whatever its case") {
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
-        CHECK(Color::colorForString(row.string) == row.color);
+        CHECK(Color::colorForString(testing::ExactCopy(row.string)) == row.color);
     }
     CHECK(Color::colorForString(u"") == std::nullopt);
     CHECK(Color::colorForString(u"#FFFFFF")->isWhiteColor());
@@ -89,7 +88,7 @@ TEST_CASE("hex digits accumulate until a third comma or a foreign character, the
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
-        CHECK(Color::colorForHexString(row.string) == row.color);
+        CHECK(Color::colorForHexString(testing::ExactCopy(row.string)) == row.color);
     }
     CHECK(Color::colorForHexString(u"rgba(0,0,0,0)").isClearColor());
     CHECK(Color::colorForHexString(u"rgba(00,00,00,0.000000)").isClearColor());
@@ -111,7 +110,7 @@ TEST_CASE("a decimal string has three parts, or four with an alpha") {
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
-        CHECK(Color::colorForRGBString(row.string) == row.color);
+        CHECK(Color::colorForRGBString(testing::ExactCopy(row.string)) == row.color);
     }
 }
 
@@ -126,25 +125,8 @@ TEST_CASE("a value reads as a colour when it holds a string or a colour") {
     CHECK(log.lines() == std::vector<String>{u"colorForString called with a NSColor!"});
 }
 
-TEST_CASE("every short text reads, and its colour's string is stable from the second reading on") {
+TEST_CASE("long texts read in one sweep") {
     const testing::LogCapture log;
-    const StringView pieces[] = {u"#",  u"rgb(", u"rgba", u"rgba(", u")",  u",",      u"0",
-                                 u"ff", u"25",   u"-",    u".",     u"e9", u" ",      u"o",
-                                 u"@",  u"red",  u"Sy",   u"1e999", u"\n", u"\xDC00", u"\u0130"};
-    std::mt19937 random(5);
-    for (int i = 0; i < 50'000; ++i) {
-        String text(pieces[random() % std::size(pieces)]);
-        for (auto left = random() % 13; left > 0; --left) {
-            text += pieces[random() % std::size(pieces)];
-        }
-        CAPTURE(text);
-        const testing::ExactCopy exact(text);
-        (void)Color::colorForHexString(exact);
-        (void)Color::colorForRGBString(exact);
-        const String printed = Color::colorForString(exact).value().stringForColor();
-        const String again = Color::colorForString(printed).value().stringForColor();
-        REQUIRE(Color::colorForString(again).value().stringForColor() == again);
-    }
     constexpr std::size_t kLength = 1'000'000;
     CHECK(Color::colorForString(u"rgb(" + String(kLength, u',') + u")") == rgb(0, 0, 0));
     CHECK(Color::colorForString(u"rgba(ff,,," + String(kLength, u'7')) == rgb(0, 0, 255, INFINITY));
