@@ -1,6 +1,4 @@
-#include <clocale>
 #include <cmath>
-#include <cstdio>
 
 #include "QZCore/color.h"
 #include "support/color_printing.h"
@@ -14,25 +12,6 @@ Color rgba(double red, double green, double blue, double alpha) {
 }
 
 testing::PreferenceSetting hexAlpha(bool isOn) { return {u"Color Hex RGBA", isOn}; }
-
-/// The general form of a colour, as the C library prints it where numbers have
-/// a decimal point.
-String printedByC(const Color& color, bool isHexAlpha) {
-    const auto steps = [](double component) {
-        return static_cast<int>(std::nearbyint(component * 255));
-    };
-    const auto* format = color.alphaComponent() == 1 ? "#%02x%02x%02x"
-                         : isHexAlpha                ? "rgba(%02x,%02x,%02x,%f)"
-                                                     : "rgb(%d,%d,%d,%f)";
-    char text[400];
-    const std::string locale = std::setlocale(LC_NUMERIC, nullptr);
-    std::setlocale(LC_NUMERIC, "C");
-    std::snprintf(text, sizeof text, format, steps(color.redComponent()),
-                  steps(color.greenComponent()), steps(color.blueComponent()),
-                  color.alphaComponent());
-    std::setlocale(LC_NUMERIC, locale.c_str());
-    return fromUTF8(text);
-}
 
 }  // namespace
 
@@ -55,12 +34,15 @@ TEST_CASE("a colour prints in a fixed form, as a name, or by its components") {
         {"half black", rgba(0, 0, 0, 0.5), u"rgba(00,00,00,0.500000)", {}},
         {"half grey", halfGrey, u"rgb(0,0,0,0.500000)", u"rgba(00,00,00,0.500000)"},
         {"another model", Color::colorWithDeviceRed(1, 0, 0, 1), u"#ff0000", {}},
+        {"one step less", rgba(0.498, 0.502, 0.5, 1), u"#7f8080", {}},
         {"ties", rgba(0.5, 0.5, 0.5, 0.25), u"rgb(128,128,128,0.250000)",
          u"rgba(80,80,80,0.250000)"},
         {"out of range", rgba(300 / 255.0, -1 / 255.0, 0, 1), u"#12cffffffff00", {}},
         {"beyond integers", rgba(1e300, -INFINITY, NAN, 0.5),
          u"rgb(2147483647,-2147483648,0,0.500000)", u"rgba(7fffffff,80000000,00,0.500000)"},
         {"no number", rgba(0, 0, 1, NAN), u"rgb(0,0,255,nan)", u"rgba(00,00,ff,nan)"},
+        {"six decimals", rgba(0, 0, 1, -0.12345678), u"rgb(0,0,255,-0.123457)",
+         u"rgba(00,00,ff,-0.123457)"},
         {"infinite", rgba(0, 0, 1, INFINITY), u"rgb(0,0,255,inf)", u"rgba(00,00,ff,inf)"},
     };
     for (const Row& row : rows) {
@@ -72,15 +54,9 @@ TEST_CASE("a colour prints in a fixed form, as a name, or by its components") {
     CHECK(Color::stringForColor(std::nullopt) == std::nullopt);
 }
 
-TEST_CASE("the general form is what the C library prints, and reads back the same") {
+TEST_CASE("what prints reads back") {
     for (const bool isHexAlpha : {false, true}) {
         const auto setting = hexAlpha(isHexAlpha);
-        for (int i = 1; i < 4000; ++i) {
-            const double red = std::sin(i) * 1.1;
-            const double alpha = i % 4 == 0 ? 1 : std::cos(i * 7) * std::pow(10, i % 9 - 6);
-            const Color color = rgba(red, i / 510.0, 1 - red * red, alpha);
-            REQUIRE(color.stringForColor() == printedByC(color, isHexAlpha));
-        }
         for (int i = 1; i < 0x10000; ++i) {
             const double alpha = i % 3 == 0 ? 1 : (i % 63 + 1) * 15625 / 1e6;
             const Color color =

@@ -41,6 +41,8 @@ TEST_CASE("any colour string is told by its start, whatever its case") {
     }
     CHECK(Color::colorForString(u"") == std::nullopt);
     CHECK(Color::colorForString(u"#FFFFFF")->isWhiteColor());
+    CHECK(Color::colorForString(u"Black")->isBlackColor());
+    CHECK(Color::colorForString(u"Clear")->isClearColor());
     CHECK(log.lines().empty());
 }
 

@@ -1,4 +1,4 @@
-#include <limits>
+#include <cmath>
 
 #include "QZCore/richtext/font_manager.h"
 #include "support/color_printing.h"
@@ -8,8 +8,6 @@
 
 namespace QZCore {
 namespace {
-
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 FontManager fonts() { return FontManager(makeInMemoryFontCatalog()); }
 
@@ -26,40 +24,26 @@ FontManager fontsOf(const std::vector<std::pair<StringView, std::uint32_t>>& fac
 
 TEST_CASE("a style's font is its face, else a family with traits, else the user's font") {
     struct Row {
-        const char* why;
         FontAttributes style;
         StringView face;
         double size = 12;
     };
     const Row rows[] = {
-        {"no style at all", {}, u"Sans-Regular"},
-        {"traits without a family", {{u"bold", true}, {u"italic", true}}, u"Sans-Regular"},
-        {"the first installed family",
-         {{u"familyName", u"Nope,Serif,Mono"}, {u"bold", true}},
-         u"Serif-Bold"},
-        {"exact names", {{u"familyName", u"serif, Serif"}, {u"bold", u"YES"}}, u"Sans-Bold"},
-        {"both traits",
-         {{u"familyName", u"Mono"}, {u"bold", 7}, {u"italic", 1}},
-         u"Mono-BoldItalic"},
-        {"one trait after the other",
-         {{u"familyName", u"Heavy"}, {u"bold", false}, {u"italic", true}},
-         u"Heavy-Regular"},
-        {"a family without the trait",
-         {{u"familyName", u"Plain"}, {u"bold", true}},
-         u"Plain-Regular"},
-        {"a face wins",
-         {{u"faceName", u"Sans-Bold"}, {u"familyName", u"Mono"}, {u"bold", false}},
-         u"Sans-Bold"},
-        {"a face that is not there",
-         {{u"faceName", u"Nope"}, {u"familyName", u"Mono"}, {u"italic", true}},
-         u"Mono-Italic"},
-        {"a size as a string", {{u"fontSize", u"14.5 pt"}}, u"Sans-Regular", 14.5},
-        {"a size in single precision", {{u"fontSize", 0.1}}, u"Sans-Regular", double{0.1F}},
-        {"a face at a size", {{u"faceName", u"Mono-Bold"}, {u"fontSize", 6}}, u"Mono-Bold", 6},
-        {"no usable size", {{u"fontSize", kNaN}}, u"Sans-Regular"},
+        {{}, u"Sans-Regular"},
+        {{{u"bold", true}, {u"italic", true}}, u"Sans-Regular"},  // they need a family
+        {{{u"familyName", u"Nope,Serif,Mono"}, {u"bold", true}}, u"Serif-Bold"},
+        {{{u"familyName", u"serif, Serif"}, {u"bold", u"YES"}}, u"Sans-Bold"},  // exact names
+        {{{u"familyName", u"Mono"}, {u"bold", 7}, {u"italic", 1}}, u"Mono-BoldItalic"},
+        {{{u"familyName", u"Plain"}, {u"bold", true}}, u"Plain-Regular"},
+        {{{u"faceName", u"Sans-Bold"}, {u"familyName", u"Mono"}, {u"bold", 0}}, u"Sans-Bold"},
+        {{{u"faceName", u"Nope"}, {u"familyName", u"Mono"}, {u"italic", 1}}, u"Mono-Italic"},
+        {{{u"fontSize", u"14.5 pt"}}, u"Sans-Regular", 14.5},
+        {{{u"fontSize", 0.1}}, u"Sans-Regular", double{0.1F}},
+        {{{u"faceName", u"Mono-Bold"}, {u"fontSize", 6}}, u"Mono-Bold", 6},
+        {{{u"fontSize", NAN}}, u"Sans-Regular"},
     };
     for (const Row& row : rows) {
-        CAPTURE(row.why);
+        CAPTURE(Value(row.style));
         const TextAttributes attributes = fonts().fontAttributesFromStyle(row.style);
         CHECK(attributes.font()->faceName == row.face);
         CHECK(attributes.font()->pointSize == row.size);
@@ -81,41 +65,31 @@ TEST_CASE("a style gives every attribute but a clear background") {
             .alignment = alignment, .minimumLineHeight = height, .maximumLineHeight = height});
     };
     constexpr auto kNatural = TextAlignment::Natural;
-    struct Row {
-        FontAttributes style;
-        StringView attribute;
-        Value value;
+    const auto check = [](const FontAttributes& style, StringView attribute, const Value& value) {
+        CAPTURE(Value(style));
+        CHECK(fonts().fontAttributesFromStyle(style).objectForKey(attribute) == value);
     };
-    const Row rows[] = {
-        {{}, NSForegroundColorAttributeName, color(u"black")},
-        {{{u"textColor", u"red"}}, NSForegroundColorAttributeName, color(u"red")},
-        {{{u"textColor", u"nope"}}, NSForegroundColorAttributeName, color(u"black")},
-        {{{u"textColor", 7}}, NSForegroundColorAttributeName, color(u"black")},
-        {{}, NSBackgroundColorAttributeName, {}},
-        {{{u"textBackgroundColor", u"red"}}, NSBackgroundColorAttributeName, color(u"red")},
-        {{{u"textBackgroundColor", u"clear"}}, NSBackgroundColorAttributeName, {}},
-        {{{u"textBackgroundColor", u"rgb(0,0,0,0)"}}, NSBackgroundColorAttributeName, {}},
-        {{{u"textBackgroundColor", u"rgb(0,0,0,1e-9)"}},
-         NSBackgroundColorAttributeName,
-         color(u"rgb(0,0,0,1e-9)")},
-        {{}, NSUnderlineStyleAttributeName, 0},
-        {{{u"underline", u"2"}}, NSUnderlineStyleAttributeName, 2},
-        {{}, NSStrikethroughStyleAttributeName, 0},
-        {{{u"strikethrough", true}}, NSStrikethroughStyleAttributeName, 1},
-        {{}, NSParagraphStyleAttributeName, paragraph(kNatural, 0)},
-        {{{u"horizontalAlignment", u"2"}, {u"lineHeight", u"20"}},
-         NSParagraphStyleAttributeName,
-         paragraph(TextAlignment::Center, 20)},
-        {{{u"horizontalAlignment", 5}, {u"lineHeight", kNaN}},
-         NSParagraphStyleAttributeName,
-         paragraph(kNatural, 0)},
-        {{{u"horizontalAlignment", -1}}, NSParagraphStyleAttributeName, paragraph(kNatural, 0)},
-    };
-    for (const Row& row : rows) {
-        CAPTURE(Value(row.style));
-        const TextAttributes attributes = fonts().fontAttributesFromStyle(row.style);
-        CHECK(attributes.objectForKey(row.attribute) == row.value);
-    }
+    check({}, NSForegroundColorAttributeName, color(u"black"));
+    check({{u"textColor", u"red"}}, NSForegroundColorAttributeName, color(u"red"));
+    check({{u"textColor", u"nope"}}, NSForegroundColorAttributeName, color(u"black"));
+    check({{u"textColor", 7}}, NSForegroundColorAttributeName, color(u"black"));
+    constexpr StringView kKey = u"textBackgroundColor";
+    check({}, NSBackgroundColorAttributeName, {});
+    check({{kKey, u"red"}}, NSBackgroundColorAttributeName, color(u"red"));
+    check({{kKey, u"clear"}}, NSBackgroundColorAttributeName, {});
+    check({{kKey, u"rgb(0,0,0,0)"}}, NSBackgroundColorAttributeName, {});
+    const StringView nearlyClear = u"rgb(0,0,0,1e-9)";
+    check({{kKey, nearlyClear}}, NSBackgroundColorAttributeName, color(nearlyClear));
+    check({}, NSUnderlineStyleAttributeName, 0);
+    check({{u"underline", u"2"}}, NSUnderlineStyleAttributeName, 2);
+    check({}, NSStrikethroughStyleAttributeName, 0);
+    check({{u"strikethrough", true}}, NSStrikethroughStyleAttributeName, 1);
+    check({}, NSParagraphStyleAttributeName, paragraph(kNatural, 0));
+    check({{u"horizontalAlignment", u"2"}, {u"lineHeight", u"20"}}, NSParagraphStyleAttributeName,
+          paragraph(TextAlignment::Center, 20));
+    check({{u"horizontalAlignment", 5}, {u"lineHeight", NAN}}, NSParagraphStyleAttributeName,
+          paragraph(kNatural, 0));
+    check({{u"horizontalAlignment", -1}}, NSParagraphStyleAttributeName, paragraph(kNatural, 0));
 }
 
 TEST_CASE("attributes are stored under the keys of what they hold, and read back") {
