@@ -1,8 +1,7 @@
 #include "QZCore/codecs/transforming.h"
 #include "codecs/percent.h"
-#include "support/exact_copy.h"
-#include "support/printing.h"
 #include "support/random_texts.h"
+#include "support/text_rows.h"
 
 namespace QZCore {
 
@@ -10,27 +9,20 @@ TEST_CASE("quoted-printable text is read as written") {
     CHECK(stringToQuotedPrintableFormat(u"A\n") == u"=41=0A");
     CHECK(stringToQuotedPrintableFormat(u"é") == u"=C3=A9");
     CHECK(stringToQuotedPrintableFormat(u"\xD800") == u"=EF=BF=BD");
-    struct Row {
-        const char* why;
-        StringView text;
-        std::optional<String> plain;
-    };
-    const Row rows[] = {
-        {"a soft line break within a character", u"=C3=\r\n=A9", u"é"},
-        {"lower-case digits", u"=c3=a9", u"é"},
-        {"text around it", u"a =3D b\r\n", u"a = b\r\n"},
-        {"percent signs are read as well", u"%41", u"A"},
-        {"characters that are not encoded", u"é\xD800=C3=A9", u"é\xD800é"},
-        {"a line break that is left by another", u"==\r\n\r\n", std::nullopt},
-        {"one digit", u"a=4", std::nullopt},
-        {"a percent sign alone", u"100%", std::nullopt},
-        {"bytes that are not UTF-8", u"=FF", std::nullopt},
-        {"a character that text interrupts", u"=C3x=A9", std::nullopt},
-    };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(stringFromQuotedPrintableFormat(testing::ExactCopy(row.text)) == row.plain);
-    }
+    testing::checkRows<std::optional<String>>(
+        stringFromQuotedPrintableFormat,
+        {
+            {"a soft line break within a character", u"=C3=\r\n=A9", u"é"},
+            {"lower-case digits", u"=c3=a9", u"é"},
+            {"text around it", u"a =3D b\r\n", u"a = b\r\n"},
+            {"percent signs are read as well", u"%41", u"A"},
+            {"characters that are not encoded", u"é\xD800=C3=A9", u"é\xD800é"},
+            {"a line break that is left by another", u"==\r\n\r\n", {}},
+            {"one digit", u"a=4", {}},
+            {"a percent sign alone", u"100%", {}},
+            {"bytes that are not UTF-8", u"=FF", {}},
+            {"a character that text interrupts", u"=C3x=A9", {}},
+        });
 }
 
 TEST_CASE("URLs keep what their parts allow") {
