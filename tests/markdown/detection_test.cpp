@@ -1,193 +1,142 @@
 #include "QZCore/markdown/detection.h"
 
+#include <algorithm>
+
+#include "QZCore/codecs/parsing.h"
+#include "QZCore/platform/regex.h"
 #include "support/printing.h"
+#include "support/random_texts.h"
 
 namespace QZCore {
-
 namespace {
 
 MarkdownSyntax syntaxWith(const Dictionary& settings) {
     return markdownSyntaxFromPreferences(Preferences(settings));
 }
 
+// ---- The rules, carried out by the regular-expression engine ------------------
+
+std::vector<RegexMatch> matchesOf(const MarkdownExpression* row, StringView text) {
+    if (row == nullptr) return {};
+    return RegularExpression::compile(row->pattern(), row->options())->matchesInString(text);
+}
+
+bool isListByRule(StringView text, bool onlyOne, const MarkdownSyntax& syntax) {
+    const auto lists = matchesOf(syntax.expressionForKey(kMarkdownList), text);
+    if (lists.empty()) return false;
+    const Range list = lists.front().range();
+    if (!onlyOne || list.length == text.size()) return true;
+    if (text.substr(list.location).find(u"\n\n") != StringView::npos) return false;
+    if (list.location == 0) return true;
+    const auto before = componentsSeparatedByPattern(text.substr(0, list.location - 1), u"\n");
+    return before.size() == 2 && !trimmedOfWhitespaceAndNewlines(before[0]).empty() &&
+           trimmedOfWhitespaceAndNewlines(before[1]).empty();
+}
+
+bool isTableByRule(StringView text, bool onlyOne, const MarkdownSyntax& syntax) {
+    const auto tables = matchesOf(syntax.expressionForKey(kMarkdownTable), text);
+    if (tables.empty()) return false;
+    return !onlyOne || tables.front().range().length == text.size() ||
+           text.find(u"\n\n") == StringView::npos;
+}
+
+bool containsByRule(StringView whole, std::uint32_t options, bool onlyOne,
+                    const MarkdownSyntax& syntax) {
+    const auto escape =
+        RegularExpression::compile(syntax.expressionForKey(kMarkdownEscape)->pattern());
+    const String replaced = escape->stringByReplacingMatchesInString(whole, u"@@");
+    const StringView text = trimmedOfWhitespaceAndNewlines(replaced);
+    const auto isThere = [&](StringView key) {
+        return !matchesOf(syntax.expressionForKey(key), text).empty();
+    };
+    if ((options & 1) != 0 && std::ranges::any_of(kMarkdownRichTextKeys, isThere)) return true;
+    if ((options & 2) != 0) return isListByRule(text, onlyOne, syntax);
+    return (options & 4) != 0 && isTableByRule(text, onlyOne, syntax);
+}
+
+bool isOutlineByRule(StringView text) {
+    const auto project = RegularExpression::compile(u"^[^\\t-].+:$");
+    const auto task = RegularExpression::compile(u"^[ \\t]*- ");
+    const auto note = RegularExpression::compile(u"^[ \\t]+");
+    const auto lines = componentsSeparatedByPattern(trimmedOfWhitespaceAndNewlines(text),
+                                                    u"[\\n-\\r\\x85\\u2028\\u2029]");
+    if (lines.size() < 2 || !project->anchoredMatchInString(lines[0])) return false;
+    bool hasTask = false;
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        const bool isTask = task->anchoredMatchInString(lines[i]).has_value();
+        if (!isTask && !note->anchoredMatchInString(lines[i])) return false;
+        hasTask |= isTask;
+    }
+    return hasTask;
+}
+
 }  // namespace
 
-TEST_CASE("a text contains Markdown when it holds rich text or a list") {
+TEST_CASE("detection answers as its rules do when the engine carries them out") {
+    const MarkdownSyntax tables[] = {
+        syntaxWith({}),
+        syntaxWith({{u"Markdown Support Lists", false},
+                    {u"Markdown Support Italic", false},
+                    {u"Markdown Regex Header No Space", true},
+                    {u"Markdown RegEx Link", u"(a)(b)"}}),
+    };
+    for (const StringView alphabet :
+         {u"*_a \\\n-", u"- \na\t", u"1.-\n\n \ra", u"|-\n\na ", u"# \na[]()b", u"`=^:~a\\"}) {
+        testing::RandomTexts texts(alphabet);
+        for (int i = 0; i < 1500; ++i) {
+            const String text = texts.next(14);
+            CAPTURE(text);
+            const auto options = static_cast<std::uint32_t>(i % 8);
+            const bool onlyOne = i / 8 % 2 == 0;
+            const MarkdownSyntax& syntax = tables[i / 16 % 2];
+            REQUIRE(containsMarkdownOptions(text, options, onlyOne, syntax) ==
+                    containsByRule(text, options, onlyOne, syntax));
+        }
+    }
+    for (const StringView alphabet : {u"P:\n- \t", u"Pr:\n-- ", u"P\xD83D\xDE00:\n- \x2028\r"}) {
+        testing::RandomTexts texts(alphabet);
+        for (int i = 0; i < 20'000; ++i) {
+            const String text = (i % 2 == 0 ? u"" : u"Pr:\n") + texts.next(9);
+            CAPTURE(text);
+            REQUIRE(isTaskPaperOutline(text) == isOutlineByRule(text));
+        }
+    }
+}
+
+TEST_CASE("each of the questions looks for its own constructs") {
     struct Row {
         const char* why;
         StringView text;
-        bool richText;
-        bool any;
+        const char* answers;  // any, rich text, list only, table only, outline
     };
     const Row rows[] = {
-        {"nothing", u"", false, false},
-        {"plain words", u"Plain words, nothing else.", false, false},
-        {"italic", u"an *italic* word", true, true},
-        {"italic with underscores", u"an _italic_ word", true, true},
-        {"bold", u"a **bold** word", true, true},
-        {"bold italic", u"___both___", true, true},
-        {"underline", u"__under__", true, true},
-        {"strikethrough", u"~~gone~~", true, true},
-        {"highlights", u"==a==", true, true},
-        {"highlight with carets", u"^^a^^", true, true},
-        {"highlight with colons", u"::a::", true, true},
-        {"inline code", u"some `code`", true, true},
-        {"link", u"[text](target)", true, true},
-        {"header", u"a\n## Title", true, true},
-        {"a list alone", u"- one\n- two", false, true},
-        {"an escaped pair", u"\\*plain\\*", false, false},
-        {"an escaped opening delimiter", u"\\*plain*", false, false},
-        {"an escaped backslash escapes nothing", u"\\\\*italic*", true, true},
-        {"an escaped hash", u"\\# no title", false, false},
-        {"an escaped list marker", u"\\- no item", false, false},
-        {"the placeholders of escapes count as text", u"*\\**", true, true},
-        {"underscores inside a word", u"snake_case_name", false, false},
-        {"blanks inside the delimiters", u"2 * 3 * 4", false, false},
-        {"a hash without a blank", u"#tag", false, false},
-        {"seven hashes", u"####### Title", false, false},
-        {"a header that trimming leaves without a title", u"text\n# ", false, false},
-        {"a header behind leading white space", u" \n\t# Title", true, true},
-        {"an item that trimming leaves without text", u"- ", false, false},
-        {"emoji, code blocks, quotes and tags", u"> :smile: #tag\n```\ncode\n```", false, false},
-        {"a table alone", u"a|b\n-|-\n1|2", false, false},
-        {"a list and a table", u"- a\n\n-|-", false, true},
-        {"italic in a list", u"- *a*", true, true},
-    };
-    const MarkdownSyntax syntax = syntaxWith({});
-    for (const Row& row : rows) {
-        CAPTURE(row.text);
-        CHECK(containsMarkdownRichText(row.text, syntax) == row.richText);
-        CHECK(containsMarkdown(row.text, syntax) == row.any);
-        CHECK(containsMarkdownOptions(row.text, kMarkdownOptionRichText, true, syntax) ==
-              row.richText);
-    }
-}
-
-TEST_CASE("a list is alone when nothing but a title and a blank line stand before it") {
-    struct Row {
-        const char* why;
-        StringView text;
-        bool isAlone;
-    };
-    const Row rows[] = {
-        {"items", u"- one\n- two", true},
-        {"white space around", u"\n\n  - one\n- two \n\n", true},
-        {"one item that has a further line", u"1. one\nmore", true},
-        {"a title, a blank line, items", u"Title\n\n- one\n- two", true},
-        {"a blank line that holds blanks", u"Title\n \t\n- one", true},
-        {"a title and items", u"Title\n- one\n- two", false},
-        {"two lines of title", u"Title\nmore\n\n- one", false},
-        {"two blank lines", u"Title\n\n\n- one", false},
-        {"a paragraph behind", u"- one\n- two\n\nmore", false},
-        {"a title and a paragraph behind", u"Title\n\n- one\n\nmore", false},
-        {"two lists", u"- one\n\n- two", false},
-        {"a blank line with blanks does not end a list", u"- one\n \nmore", true},
-        {"blank lines with carriage returns are none", u"- one\r\n\r\nmore", true},
-        {"a title with carriage returns is no title", u"Title\r\n\r\n- one", true},
-        {"a separate line end", u"Title\u2028- one", false},
-        {"no list", u"text", false},
-        {"a table", u"a|b\n-|-", false},
-    };
-    const MarkdownSyntax syntax = syntaxWith({});
-    for (const Row& row : rows) {
-        CAPTURE(row.text);
-        CHECK(containsMarkdownListOnly(row.text, syntax) == row.isAlone);
-    }
-}
-
-TEST_CASE("a table is alone when no line is empty") {
-    struct Row {
-        StringView text;
-        bool isAlone;
-        bool isThere;
-    };
-    const Row rows[] = {
-        {u"a|b\n-|-\n1|2", true, true},
-        {u"-|-", true, true},
-        {u"| a | b |\n|---|:-:|", true, true},
-        {u"\n\n-|-\n\n", true, true},
-        {u"a|b\n-|-\n\ntext", false, true},
-        {u"text\n\n-|-", false, true},
-        {u"text\n-|-\ntext", true, true},
-        {u"a|b\n1|2", false, false},
-        {u"----", false, false},
-        {u"text\r\n\r\n-|-", true, true},
-    };
-    const MarkdownSyntax syntax = syntaxWith({});
-    for (const Row& row : rows) {
-        CAPTURE(row.text);
-        CHECK(containsMarkdownTableOnly(row.text, syntax) == row.isAlone);
-        CHECK(containsMarkdownOptions(row.text, kMarkdownOptionTable, false, syntax) ==
-              row.isThere);
-    }
-}
-
-TEST_CASE("a table is looked for only where lists are not") {
-    const StringView table = u"a|b\n-|-";
-    const MarkdownSyntax all = syntaxWith({});
-    const MarkdownSyntax withoutLists = syntaxWith({{u"Markdown Support Lists", false}});
-    for (const bool onlyOne : {false, true}) {
-        CHECK(containsMarkdownOptions(table, kMarkdownOptionTable, onlyOne, all));
-        CHECK_FALSE(containsMarkdownOptions(table, kMarkdownOptionTable | kMarkdownOptionList,
-                                            onlyOne, all));
-        CHECK_FALSE(containsMarkdownOptions(table, kMarkdownOptionTable | kMarkdownOptionList,
-                                            onlyOne, withoutLists));
-        CHECK_FALSE(containsMarkdownOptions(u"- a", kMarkdownOptionList, onlyOne, withoutLists));
-        CHECK_FALSE(containsMarkdownOptions(u"*a*", 0, onlyOne, all));
-        CHECK_FALSE(containsMarkdownOptions(u"*a*", 8, onlyOne, all));
-    }
-}
-
-TEST_CASE("detection follows the switches, but escapes are always taken out") {
-    CHECK_FALSE(containsMarkdown(u"*a*", syntaxWith({{u"Markdown Support Italic", false}})));
-    CHECK(containsMarkdown(u"snake_case_name",
-                           syntaxWith({{u"Markdown Support Intraword Underscore Italic", true}})));
-    CHECK(containsMarkdown(u"#Title", syntaxWith({{u"Markdown Regex Header No Space", true}})));
-    CHECK(containsMarkdown(u"<a>b</a>", syntaxWith({{u"Markdown RegEx Link", u"<(.)>(.)</a>"}})));
-}
-
-TEST_CASE("the tests without a table use that of the process") {
-    CHECK(containsMarkdown(u"*a*"));
-    CHECK(containsMarkdownRichText(u"*a*"));
-    CHECK(containsMarkdownListOnly(u"- a"));
-    CHECK(containsMarkdownTableOnly(u"-|-"));
-    CHECK(containsMarkdownOptions(u"- a", kMarkdownOptionList, false));
-}
-
-TEST_CASE("a task outline is a project line, tasks and indented notes") {
-    struct Row {
-        const char* why;
-        StringView text;
-        bool isOutline;
-    };
-    const Row rows[] = {
-        {"a project, a task, a note", u"Project:\n- task\n\tnote", true},
-        {"an indented task", u"Project:\n \t- task", true},
-        {"a note before the task", u"Project:\n note\n- task", true},
-        {"white space around", u"\n\n Project:\n- task\n", true},
-        {"other line ends", u"Project:\u2028- task\r\tnote", true},
-        {"no task", u"Project:\n\tnote", false},
-        {"a plain line", u"Project:\n- task\nplain", false},
-        {"a plain line before the tasks", u"Project:\nplain\n- task", false},
-        {"an empty line", u"Project:\n\n- task", false},
-        {"a line of blanks counts as a note", u"Project:\n \n- task", true},
-        {"CR LF counts as two line ends", u"Project:\r\n- task", false},
-        {"no blank behind the hyphen", u"Project:\n-task", false},
-        {"an indented hyphen alone is a note", u"Project:\n- a\n -b", true},
-        {"a last task that trimming leaves without its blank", u"Project:\n- ", false},
-        {"one line", u"Project:", false},
-        {"nothing", u"", false},
-        {"no colon", u"Project\n- task", false},
-        {"a blank behind the colon", u"Project: \n- task", false},
-        {"a task first", u"- Project:\n- task", false},
-        {"too short for a name", u"P:\n- task", false},
-        {"two characters are enough", u"Pr:\n- task", true},
-        {"a pair of surrogates is one character", u"\U0001F600:\n- task", false},
-        {"an unpaired surrogate is a character", u"\xD83DP:\n- task", true},
+        {"nothing", u"", "....."},
+        {"an escaped pair", u"\\*plain\\*", "....."},
+        {"an escaped backslash escapes nothing", u"\\\\*italic*", "ar..."},
+        {"underscores inside a word", u"snake_case_name", "....."},
+        {"blanks inside the delimiters", u"2 * 3 * 4", "....."},
+        {"seven hashes", u"####### Title", "....."},
+        {"a header behind white space", u" \n\t# Title", "ar..."},
+        {"emoji, code blocks, quotes and tags", u"> :smile: #tag\n```\ncode\n```", "....."},
+        {"a table", u"a|b\n-|-\n1|2", "...t."},
+        {"a table and an empty line", u"a|b\n-|-\n\ntext", "....."},
+        {"a title, a blank line and items", u"Title\n\n- one\n- two", "a.l.."},
+        {"a title and items", u"Title\n- one\n- two", "a...."},
+        {"items and a paragraph", u"- one\n- two\n\nmore", "a...."},
+        {"blank lines with carriage returns are none", u"- one\r\n\r\nmore", "a.l.."},
+        {"a task outline", u"Project:\n- task\n\tnote", "a...o"},
+        {"an outline with a plain line", u"Project:\n- task\nplain", "a...."},
+        {"an outline without a task", u"Project:\n\tnote", "....."},
     };
     for (const Row& row : rows) {
-        CAPTURE(row.text);
-        CHECK(isTaskPaperOutline(row.text) == row.isOutline);
+        CAPTURE(row.why);
+        std::string answers;
+        answers += containsMarkdown(row.text) ? 'a' : '.';
+        answers += containsMarkdownRichText(row.text) ? 'r' : '.';
+        answers += containsMarkdownListOnly(row.text) ? 'l' : '.';
+        answers += containsMarkdownTableOnly(row.text) ? 't' : '.';
+        answers += isTaskPaperOutline(row.text) ? 'o' : '.';
+        CHECK(answers == row.answers);
     }
 }
 

@@ -3,8 +3,8 @@
 // first, one attribute set for each unit.
 #include <cstdlib>
 #include <random>
-#include <ranges>
 
+#include "QZCore/codecs/parsing.h"
 #include "QZCore/color.h"
 #include "QZCore/markdown.h"
 #include "QZCore/platform/images.h"
@@ -19,6 +19,7 @@
 namespace QZCore {
 namespace {
 
+using namespace std::string_view_literals;
 using testing::MarkdownSettings;
 
 class PlainRendering {
@@ -38,27 +39,32 @@ public:
     }
 
     RichText result() {
-        renderCode(kMarkdownCodeBlock, 1);
-        renderLinks();
-        renderCode(kMarkdownInlineCode, 0);
-        renderEmoji();
-        renderDelimiters(kMarkdownItalicAsterisk, 1, {{kStyleFontItalic, true}}, u"*");
-        renderDelimiters(kMarkdownItalicUnderscore, 1, {{kStyleFontItalic, true}}, u"*");
-        renderDelimiters(kMarkdownBold, 2, {{kStyleFontBold, true}}, u"**");
-        renderDelimiters(kMarkdownBoldItalic, 3, {{kStyleFontBold, true}, {kStyleFontItalic, true}},
-                         u"***");
-        renderLines(kMarkdownUnderline, NSUnderlineStyleAttributeName);
-        renderLines(kMarkdownStrikethrough, NSStrikethroughStyleAttributeName);
+        const Color text = Color::textColor();
+        const Dictionary italic{{kStyleFontItalic, true}};
+        const Dictionary bold{{kStyleFontBold, true}};
+        const Dictionary both{{kStyleFontBold, true}, {kStyleFontItalic, true}};
         Dictionary highlight;
         setColor(highlight,
                  color(u"Markdown Highlight Color", Color::colorWithCalibratedRed(1, 1, 0, 0.4)),
                  kStyleBackgroundColor);
-        for (const StringView key :
-             {kMarkdownHighlightEquals, kMarkdownHighlightCaret, kMarkdownHighlightColon}) {
-            renderDelimiters(key, 2, highlight, u"highlight");
-        }
-        renderQuotes();
-        renderHeaders();
+
+        const Dictionary codeBlock = codeStyle(u"Markdown Code Block ", text);
+        renderStyled(kMarkdownCodeBlock, {.group = 1}, codeBlock, u"```", markOfCode());
+        renderLinks();
+        const Dictionary inlineCode = codeStyle(u"Markdown Inline Code ", {});
+        renderStyled(kMarkdownInlineCode, {.delimiter = 1}, inlineCode, u"`", markOfCode());
+        renderEmoji();
+        renderStyled(kMarkdownItalicAsterisk, {.delimiter = 1}, italic, u"*");
+        renderStyled(kMarkdownItalicUnderscore, {.delimiter = 1}, italic, u"*");
+        renderStyled(kMarkdownBold, {.delimiter = 2}, bold, u"**");
+        renderStyled(kMarkdownBoldItalic, {.delimiter = 3}, both, u"***");
+        renderLines(kMarkdownUnderline, NSUnderlineStyleAttributeName);
+        renderLines(kMarkdownStrikethrough, NSStrikethroughStyleAttributeName);
+        renderStyled(kMarkdownHighlightEquals, {.delimiter = 2}, highlight, u"highlight");
+        renderStyled(kMarkdownHighlightCaret, {.delimiter = 2}, highlight, u"highlight");
+        renderStyled(kMarkdownHighlightColon, {.delimiter = 2}, highlight, u"highlight");
+        renderStyled(kMarkdownBlockQuote, {.group = 2}, quoteStyle(text), u">");
+        renderHeaders(text);
         return finished();
     }
 
@@ -103,10 +109,6 @@ private:
         searched_.replace(match.range().location, match.range().length, with);
     }
 
-    Range within(const RegexMatch& match, std::size_t length) const {
-        return {match.range().location + length, match.range().length - 2 * length};
-    }
-
     // ---- Styles and settings ----
 
     const Dictionary* styleNamed(StringView name) const {
@@ -134,34 +136,59 @@ private:
         return settings_.preferences().doubleForKey(key, otherwise);
     }
 
-    TextAttributes keptFromLaterPasses(const TextAttributes& attributes) const {
-        if (!settings_.preferences().boolForKey(u"Markdown Use Ignore Block", true)) {
-            return attributes;
-        }
-        return attributes.withAttribute(kIgnoreBlockAttributeName, u"");
+    TextAttributes markOfCode() const {
+        if (!settings_.preferences().boolForKey(u"Markdown Use Ignore Block", true)) return {};
+        return {{kIgnoreBlockAttributeName, u""}};
     }
 
-    // ---- The passes ----
-
-    void renderCode(StringView key, std::size_t contentGroup) {
-        const bool isBlock = key == kMarkdownCodeBlock;
-        const String prefix = isBlock ? u"Markdown Code Block " : u"Markdown Inline Code ";
+    Dictionary codeStyle(const String& prefix, std::optional<Color> textColor) const {
         const Preferences& preferences = settings_.preferences();
         Dictionary style{{kStyleFontFamily, preferences.stringForKey(prefix + u"Font", u"Menlo")},
                          {kStyleBackgroundColor,
                           preferences.stringForKey(prefix + u"Background Color", u"#f1f1f1")}};
-        setColor(style,
-                 isBlock ? color(prefix + u"Text Color", Color::textColor())
-                         : color(prefix + u"Text Color"),
-                 kStyleFontColor);
+        setColor(style, color(prefix + u"Text Color", textColor), kStyleFontColor);
+        return style;
+    }
+
+    Dictionary quoteStyle(const Color& textColor) const {
+        Dictionary style{
+            {kStyleFirstLineHeadIndent, number(u"Markdown Block Quote First Line Head Indent", 18)},
+            {kStyleHeadIndent, number(u"Markdown Block Quote Head Indent", 18)},
+            {kStyleTailIndent, number(u"Markdown Block Quote Tail Indent", -18)},
+            {kStyleParagraphSpacingAfter,
+             number(u"Markdown Block Quote Paragraph Spacing After", 10)}};
+        setColor(style, color(u"Markdown Block Quote Text Color", textColor), kStyleFontColor);
+        return style;
+    }
+
+    // ---- The passes ----
+
+    /// A group of the match less the delimiters at both its ends.
+    struct Content {
+        std::size_t group = 0;
+        std::size_t delimiter = 0;
+
+        [[nodiscard]] Range of(const RegexMatch& match) const {
+            const Range range = match.group(group);
+            return {range.location + delimiter, range.length - 2 * delimiter};
+        }
+    };
+
+    void renderStyled(StringView key, Content content, const Dictionary& style,
+                      StringView userStyle, const TextAttributes& mark = {}) {
         forEachMatchFromTheLast(key, [&](const RegexMatch& match) {
-            keep(match, isBlock ? match.group(contentGroup) : within(match, 1),
-                 keptFromLaterPasses(resolved(match, style, isBlock ? u"```" : u"`")));
+            keep(match, content.of(match), resolved(match, style, userStyle).mergedWith(mark));
+        });
+    }
+
+    void renderLines(StringView key, AttributeName name) {
+        forEachMatchFromTheLast(key, [&](const RegexMatch& match) {
+            keep(match, Content{.delimiter = 2}.of(match), {{name, 1}});
         });
     }
 
     void renderLinks() {
-        TextAttributes look;
+        TextAttributes look = markOfCode();
         const auto linkColor = color(u"Link Color");
         if (linkColor && !linkColor->isEqualByString(Color::clearColor())) {
             look = look.withAttribute(NSForegroundColorAttributeName, Value::boxed(*linkColor));
@@ -189,9 +216,7 @@ private:
                 replace(match, StringView(&kAttachmentCharacter, 1));
                 add({{NSAttachmentAttributeName, Value::boxed(picture)}}, {at, 1});
             } else {
-                keep(match, text,
-                     keptFromLaterPasses(
-                         look.withAttribute(NSLinkAttributeName, linkForTarget(target))));
+                keep(match, text, look.withAttribute(NSLinkAttributeName, linkForTarget(target)));
             }
         });
     }
@@ -205,55 +230,22 @@ private:
         });
     }
 
-    void renderDelimiters(StringView key, std::size_t length, const Dictionary& style,
-                          StringView userStyle) {
-        forEachMatchFromTheLast(key, [&](const RegexMatch& match) {
-            keep(match, within(match, length), resolved(match, style, userStyle));
-        });
-    }
-
-    void renderLines(StringView key, AttributeName name) {
-        forEachMatchFromTheLast(key, [&](const RegexMatch& match) {
-            keep(match, within(match, 2), {{name, 1}});
-        });
-    }
-
-    void renderQuotes() {
-        Dictionary style{
-            {kStyleFirstLineHeadIndent, number(u"Markdown Block Quote First Line Head Indent", 18)},
-            {kStyleHeadIndent, number(u"Markdown Block Quote Head Indent", 18)},
-            {kStyleTailIndent, number(u"Markdown Block Quote Tail Indent", -18)},
-            {kStyleParagraphSpacingAfter,
-             number(u"Markdown Block Quote Paragraph Spacing After", 10)}};
-        setColor(style, color(u"Markdown Block Quote Text Color", Color::textColor()),
-                 kStyleFontColor);
-        forEachMatchFromTheLast(kMarkdownBlockQuote, [&](const RegexMatch& match) {
-            keep(match, match.group(2), resolved(match, style, u">"));
-        });
-    }
-
     std::int32_t headerSize(std::size_t level) const {
         const String sizes = settings_.preferences().stringForKey(u"Markdown Header Sizes",
                                                                   u"32, 24, 18, 16, 13, 11");
-        std::vector<String> pieces(1);
-        for (const char16_t unit : sizes) {
-            if (unit == u',')
-                pieces.emplace_back();
-            else
-                pieces.back().push_back(unit);
-        }
+        const std::vector<String> pieces = componentsSeparatedByPattern(sizes, u",");
         return level <= pieces.size() ? intValue(pieces[level - 1])
                                       : static_cast<std::int32_t>(bodyFont_.pointSize);
     }
 
-    void renderHeaders() {
+    void renderHeaders(const Color& textColor) {
         Dictionary style{
             {kStyleFontBold, settings_.preferences().boolForKey(u"Markdown Header Bold", true)},
             {kStyleLineHeightMultiple, number(u"Markdown Header Line Height Multiple", 1)},
             {kStyleLineSpacing, number(u"Markdown Header Line Spacing", 0)},
             {kStyleParagraphSpacingBefore, number(u"Markdown Header Paragraph Spacing Before", 5)},
             {kStyleParagraphSpacingAfter, number(u"Markdown Header Paragraph Spacing After", 2)}};
-        setColor(style, color(u"Markdown Header Text Color", Color::textColor()), kStyleFontColor);
+        setColor(style, color(u"Markdown Header Text Color", textColor), kStyleFontColor);
         forEachMatchFromTheLast(kMarkdownHeaders, [&](const RegexMatch& match) {
             const std::size_t level = match.group(1).length;
             style.setObject(headerSize(level), kStyleFontSize);
@@ -287,15 +279,12 @@ private:
 
 // ---- Texts and settings -------------------------------------------------------
 
-constexpr StringView kPieces[] = {
-    u"*",     u"*",      u"**",      u"***",        u"_",      u"__",     u"___",    u"~~",
-    u"==",    u"^^",     u"::",      u"`",          u"`",      u"``",     u"```",    u"```\n",
-    u"\n```", u"\n",     u"\n",      u"\n# ",       u"\n### ", u"\n>",    u"\n> ",   u"[",
-    u"](",    u"](c)",   u"[a](b)",  u"![a",        u"!",      u"a",      u"b",      u"a",
-    u" ",     u"\\",     u"\\*",     u"\\_",        u"\\[",    u"@",      u":a:",    u":",
-    u"\r\n",  u"smile",  u":heart:", u"\U0001F600", u"\xD83D", u"\xDE00", u"\u2028", u"\u0301",
-    u"<a|b>", u"a\n\nb", u"a\n\nb",  u"\n\n",       u".\n\n",  u"(",      u")",
-};
+// What notes are made of, with tabs between.
+constexpr StringView kPieces =
+    u"*\t*\t**\t***\t_\t__\t___\t~~\t==\t^^\t::\t`\t`\t``\t```\t```\n\t\n```\t\n\t\n\t\n# \t\n### "
+    u"\t"
+    u"\n>\t\n> \t[\t](\t](c)\t[a](b)\t![a\t!\ta\tb\ta\t \t\\\t\\*\t\\_\t\\[\t@\t:a:\t:\tsmile\t"
+    u":heart:\t\U0001F600\t\xD83D\t\xDE00\t\r\n\t\u2028\t\u0301\t\0\t<a|b>\ta\n\nb\ta\n\nb\t\n\n\t.\n\n\t(\t)"sv;
 
 constexpr const char* kSettings[] = {
     "",
@@ -320,7 +309,7 @@ public:
     RichText next() {
         String plain;
         for (std::size_t pieces = 1 + below(30); pieces > 0; --pieces) {
-            plain += kPieces[below(std::size(kPieces))];
+            plain += pieces_[below(pieces_.size())];
         }
         RichText text(plain, looks_[below(2)]);
         for (std::size_t stretches = below(4); stretches > 0; --stretches) {
@@ -345,6 +334,7 @@ private:
         {{NSParagraphStyleAttributeName, Value::boxed(ParagraphStyle{.headIndent = 5})}},
         {{kIgnoreBlockAttributeName, u""}},
     };
+    const std::vector<String> pieces_ = componentsSeparatedByPattern(kPieces, u"\t");
     std::mt19937 random_{20260102};
 };
 
