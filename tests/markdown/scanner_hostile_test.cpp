@@ -44,17 +44,10 @@ TEST_CASE("unmatched openers and endless constructs take no longer than other te
     const String megabyte(1'000'000, u'x');
     const Row rows[] = {
         {"unmatched _", ScannerKind::ItalicUnderscore, repeated(u"_a "), 0},
-        {"unmatched intraword _", ScannerKind::ItalicUnderscoreIntraword, repeated(u"_a "), 0},
         {"unmatched *", ScannerKind::ItalicAsterisk, repeated(u"*a "), 0},
-        {"unmatched **", ScannerKind::Bold, repeated(u"**a "), 0},
         {"unmatched *** and ___", ScannerKind::BoldItalic, repeated(u"***a ___b "), 0},
         {"pairs inside of pairs", ScannerKind::BoldItalic,
          repeated(u"***a ___b*** ") + u"***c d___", kMany},
-        {"unmatched __", ScannerKind::Underline, repeated(u"__a "), 0},
-        {"unmatched ~~", ScannerKind::Strikethrough, repeated(u"~~a "), 0},
-        {"unmatched ==", ScannerKind::HighlightEquals, repeated(u"==a "), 0},
-        {"unmatched ^^", ScannerKind::HighlightCaret, repeated(u"^^a "), 0},
-        {"unmatched ::", ScannerKind::HighlightColon, repeated(u"::a "), 0},
         {"underscores behind marks", ScannerKind::ItalicUnderscore, repeated(u"_\u0301"), 0},
         {"one underscore behind many marks", ScannerKind::ItalicUnderscore,
          repeated(u"\u0301") + u"_a_", 1},

@@ -62,6 +62,17 @@ constexpr char32_t kSamples[] = {u'a',      u'\u00E9', u'\u0416', u'\u05D0', u'\
 
 }  // namespace
 
+TEST_CASE("fonts hash alike when they are equal and are described by face and size") {
+    const Font font{u"Sans", u"Sans-Bold", 0.0, kFontBold, 9};
+    Font other = font;
+    other.pointSize = -0.0;
+    CHECK(font == other);
+    CHECK(hashOf(font) == hashOf(other));
+    other.pointSize = 13.5;
+    CHECK(hashOf(font) != hashOf(other));
+    CHECK(descriptionOf(other) == u"Sans-Bold 13.5");
+}
+
 TEST_CASE("families are sorted, each with faces, and others have none") {
     for (const auto& catalog : catalogs()) {
         const std::vector<String> families = catalog->availableFamilies();

@@ -204,14 +204,3 @@ TEST_CASE("the caution image is an image of its stated size") {
     read->isCaution = true;
     CHECK(*read == caution);
 }
-
-TEST_CASE("an application can put its own decoder in place and take it away") {
-    class Everything final : public ImageDecoder {
-        std::optional<Image> decode(DataView /*bytes*/) const override { return cautionImage(); }
-    };
-    const auto own = std::make_shared<Everything>();
-    CHECK(setSharedImageDecoder(own) == nullptr);
-    CHECK(sharedImageDecoder()->decode({}) == cautionImage());
-    CHECK(setSharedImageDecoder({}) == own);
-    CHECK_FALSE(sharedImageDecoder()->decode({}));
-}

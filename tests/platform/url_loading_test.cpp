@@ -182,12 +182,3 @@ TEST_CASE("a file is read, and nothing that only has a name like one") {
     CHECK(loaded({.url = url, .byteLimit = 6}) == "(nothing)");
     CHECK_FALSE(makeNetworkUrlLoader()->hasCachedResponse(url));
 }
-
-TEST_CASE("the loader that refuses refuses, and an application can set its own") {
-    const std::shared_ptr<UrlLoader> refusing = makeRefusingUrlLoader();
-    CHECK_FALSE(refusing->load({.url = {u"file:///dev/null"}}));
-    CHECK(setSharedUrlLoader(refusing) == nullptr);
-    CHECK(sharedUrlLoader() == refusing);
-    CHECK(setSharedUrlLoader({}) == refusing);
-    CHECK(sharedUrlLoader() != refusing);
-}
