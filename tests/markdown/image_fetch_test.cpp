@@ -1,8 +1,10 @@
+#include <chrono>
 #include <thread>
 
 #include "QZCore/markdown.h"
 #include "QZCore/platform/images.h"
 #include "QZCore/platform/url_loading.h"
+#include "support/font_scope.h"
 #include "support/log_capture.h"
 #include "support/markdown_settings.h"
 #include "support/printing.h"
@@ -52,6 +54,7 @@ struct Fetching {
         return text.attributesAtIndex(index).attachment()->image.get();
     }
 
+    const testing::MadeUpFonts fonts;
     std::shared_ptr<NotingLoader> loader = std::make_shared<NotingLoader>();
     RichText text;
 };

@@ -187,38 +187,41 @@ private:
         });
     }
 
-    void renderLinks() {
+    TextAttributes linkLook() const {
         TextAttributes look = markOfCode();
         const auto linkColor = color(u"Link Color");
         if (linkColor && !linkColor->isEqualByString(Color::clearColor())) {
             look = look.withAttribute(NSForegroundColorAttributeName, Value::boxed(*linkColor));
         }
-        if (settings_.preferences().boolForKey(u"Link Underline", true)) {
-            look = look.withAttribute(NSUnderlineStyleAttributeName, 1);
-        }
+        if (!settings_.preferences().boolForKey(u"Link Underline", true)) return look;
+        return look.withAttribute(NSUnderlineStyleAttributeName, 1);
+    }
+
+    String textOf(Range range) const { return live_.text.substr(range.location, range.length); }
+
+    void renderLinks() {
+        const TextAttributes look = linkLook();
         forEachMatchFromTheLast(kMarkdownLink, [&](const RegexMatch& match) {
             const Range text = match.group(1);
-            for (const Range group : {text, match.group(2)}) {
-                if (group.length == 0 || group.location < match.range().location ||
-                    group.end() > match.range().end()) {
-                    return;
-                }
-            }
-            const StringView source = live_.text;
-            const StringView target = source.substr(match.group(2).location, match.group(2).length);
-            if (source[match.range().location] == u'!') {
-                const String alternative =
-                    withoutEscapes(source.substr(text.location, text.length));
-                const TextAttachment picture{std::make_shared<const Image>(cautionImage()), 32, 32,
-                                             alternative.substr(0, alternative.rfind(u'|')),
-                                             withoutEscapes(target)};
-                const std::size_t at = match.range().location;
-                replace(match, StringView(&kAttachmentCharacter, 1));
-                add({{NSAttachmentAttributeName, Value::boxed(picture)}}, {at, 1});
-            } else {
-                keep(match, text, look.withAttribute(NSLinkAttributeName, linkForTarget(target)));
-            }
+            const Range target = match.group(2);
+            const auto isInside = [&](Range group) {
+                return group.length > 0 && group.location >= match.range().location &&
+                       group.end() <= match.range().end();
+            };
+            if (!isInside(text) || !isInside(target)) return;
+            if (live_.text[match.range().location] == u'!') return placeImage(match);
+            const Value link = linkForTarget(textOf(target));
+            keep(match, text, look.withAttribute(NSLinkAttributeName, link));
         });
+    }
+
+    void placeImage(const RegexMatch& match) {
+        const String alternative = withoutEscapes(textOf(match.group(1)));
+        const TextAttachment picture{std::make_shared<const Image>(cautionImage()), 32, 32,
+                                     alternative.substr(0, alternative.rfind(u'|')),
+                                     withoutEscapes(textOf(match.group(2)))};
+        replace(match, StringView(&kAttachmentCharacter, 1));
+        add({{NSAttachmentAttributeName, Value::boxed(picture)}}, {match.range().location, 1});
     }
 
     void renderEmoji() {
