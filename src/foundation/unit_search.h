@@ -63,8 +63,15 @@ template <class Wanted>
 
 /// `isNewline` without branches, for a unit or lanes.
 template <class Units>
-[[nodiscard]] constexpr auto endsLine(Units units) {
-    return ((units >= u'\n') & (units <= u'\r')) | (units == 0x85) | ((units & 0xFFFE) == 0x2028);
+[[nodiscard]] auto endsLine(Units units) {
+    // Lanes are compared with numbers of their own type.
+    constexpr std::uint16_t kLineFeed = u'\n';
+    constexpr std::uint16_t kReturn = u'\r';
+    constexpr std::uint16_t kNextLine = 0x85;
+    constexpr std::uint16_t kLineSeparator = 0x2028;
+    constexpr std::uint16_t kParagraphSeparator = 0x2029;
+    return ((units >= kLineFeed) & (units <= kReturn)) | (units == kNextLine) |
+           (units == kLineSeparator) | (units == kParagraphSeparator);
 }
 
 /// The first line end at or after `from`, or the length of the text.

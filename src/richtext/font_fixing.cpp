@@ -110,7 +110,8 @@ public:
 
 private:
     static std::size_t findBeyondAscii(StringView text, std::size_t from) {
-        return findFirst(text, from, [](auto unit) { return unit >= 0x80; });
+        constexpr std::uint16_t kFirst = 0x80;
+        return findFirst(text, from, [](auto unit) { return unit >= kFirst; });
     }
 
     /// Whether a run surely keeps its font: it has none or holds only ASCII

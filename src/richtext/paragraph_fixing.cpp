@@ -17,7 +17,12 @@ namespace {
 
 /// The end of the paragraph that is open at `from`, at most `limit`.
 std::size_t paragraphEnd(StringView text, std::size_t from, std::size_t limit) {
-    const auto mayEnd = [](auto c) { return (c == u'\n') | (c == u'\r') | (c == 0x2029); };
+    constexpr std::uint16_t kLineFeed = u'\n';
+    constexpr std::uint16_t kReturn = u'\r';
+    constexpr std::uint16_t kParagraphSeparator = 0x2029;
+    const auto mayEnd = [](auto c) {
+        return (c == kLineFeed) | (c == kReturn) | (c == kParagraphSeparator);
+    };
     const StringView part = text.substr(0, limit);
     while ((from = findFirst(part, from, mayEnd)) < limit) {
         if (paragraphEndsBefore(text, ++from)) break;
