@@ -5,6 +5,7 @@
 
 #include "markdown/escape_scanner.h"
 #include "markdown/expression_matches.h"
+#include "markdown/list_title.h"
 
 namespace QZCore {
 
@@ -32,21 +33,12 @@ bool containsRichText(StringView text, const MarkdownSyntax& syntax) {
     });
 }
 
-bool containsText(StringView text) { return !trimmedOfWhitespaceAndNewlines(text).empty(); }
-
-// Whether `text` is one line with text, a line feed, and a blank line.
-bool isTitleAndBlankLine(StringView text) {
-    const std::size_t feed = text.find(u'\n');
-    if (feed == StringView::npos || text.find(u'\n', feed + 1) != StringView::npos) return false;
-    return containsText(text.substr(0, feed)) && !containsText(text.substr(feed + 1));
-}
-
 // Whether `list`, the first list of `text`, is all there is but for a title.
 bool isListAlone(SpanMatch::Span list, StringView text) {
     if (coversAll(list, text)) return true;
     if (text.find(kBlankLine, list.start) != StringView::npos) return false;
     if (list.start == 0) return true;
-    return isTitleAndBlankLine(text.substr(0, list.start - 1));
+    return isListTitle(text.substr(0, list.start));
 }
 
 bool isTableAlone(SpanMatch::Span table, StringView text) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "QZCore/markdown/syntax.h"
+#include "markdown/flat_writer.h"
 #include "markdown/scanner.h"
 #include "richtext/flat_text.h"
 #include "richtext/number_map.h"
@@ -118,6 +119,12 @@ public:
     /// one forward sweep gives the same and moves every unit once.
     void apply(MatchEditor& editor);
 
+    /// Replaces each match found last whose first character is not marked to be
+    /// ignored by what `write(match, flat, out)` adds to a writer. Only for the
+    /// last pass: the search copy is gone then.
+    template <class Write>
+    void rewrite(Write write);
+
     /// Gives the rendered part up, without the backslashes of its escapes and
     /// without the mark that keeps passes away.
     [[nodiscard]] FlatText take();
@@ -136,5 +143,27 @@ private:
     std::vector<FlatRun> sweptRuns_;
     NumberMap withoutIgnoreAttribute_;
 };
+
+template <class Write>
+void RenderText::rewrite(Write write) {
+    FlatWriter out;
+    RunWalk ahead(flat_.runs);
+    RunWalk runs(flat_.runs);
+    std::uint32_t done = 0;
+    const auto keepUpTo = [&](std::uint32_t end) {
+        out.append({live().substr(done, end - done), done}, runs);
+        done = end;
+    };
+    for (const SpanMatch& match : matches_) {
+        if ((ahead.idAt(match.whole.start) & kIgnoreMark) != 0) continue;
+        keepUpTo(match.whole.start);
+        write(match, flat_, out);
+        done = match.whole.end;
+    }
+    if (done == 0) return;
+    keepUpTo(static_cast<std::uint32_t>(flat_.text.size()));
+    out.moveTo(flat_);
+    copyDiffers_ = false;
+}
 
 }  // namespace QZCore

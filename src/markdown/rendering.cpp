@@ -6,6 +6,7 @@
 
 #include "QZCore/markdown/detection.h"
 #include "QZCore/platform/fonts.h"
+#include "markdown/list_rendering.h"
 #include "markdown/note_parts.h"
 #include "markdown/passes.h"
 #include "markdown/rendering_in_parts.h"
@@ -63,11 +64,13 @@ public:
           body_(bodyStyle(context_, note.firstAttributes())),
           fixing_(*catalog_) {}
 
-    /// Renders `part`, whose runs are numbered by `palette`.
-    void render(FlatText& part, AttributePalette& palette) {
+    /// Renders `part`, whose runs are numbered by `palette`. `startsNote` says
+    /// whether it is the first one.
+    void render(FlatText& part, AttributePalette& palette, bool startsNote) {
         part.palette = std::move(palette);
         text_.load(std::move(part), body_);
         for (std::size_t i = 0; i < kPasses.size(); ++i) applyPass(i);
+        applyListPass(startsNote);
         part = text_.take();
         fixing_.fixAttributes(part);
         palette = std::move(part.palette);
@@ -81,6 +84,14 @@ private:
         if (pass == nullptr) pass = kPasses[index].make(context_);
         pass->beginPart();
         text_.apply(*pass);
+    }
+
+    /// Lists come last. They are built anew, not edited.
+    void applyListPass(bool startsNote) {
+        const MarkdownExpression* list = syntax_.expressionForKey(kMarkdownList);
+        const MarkdownExpression* line = syntax_.expressionForKey(kMarkdownListLine);
+        if (list == nullptr || line == nullptr || text_.find(*list).empty()) return;
+        renderLists(text_, startsNote, {context_.styles, context_.preferences, *line});
     }
 
     const MarkdownSyntax& syntax_;
@@ -135,7 +146,7 @@ void render(const NoteSource& note, const StyleSheet& styles, const MarkdownSynt
     NoteRenderer renderer(note, styles, syntax, preferences);
     // From the last to the first, as the matches of a pass are visited: images
     // are fetched in that order.
-    for (std::size_t i = parts.size(); i-- > 0;) renderer.render(parts[i], palette);
+    for (std::size_t i = parts.size(); i-- > 0;) renderer.render(parts[i], palette, i == 0);
     FlatTextAccess::replaceContents(text, std::move(parts), std::move(palette));
 }
 

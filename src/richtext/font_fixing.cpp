@@ -12,6 +12,8 @@
 namespace QZCore {
 namespace {
 
+constexpr std::uint16_t kFirstBeyondAscii = 0x80;
+
 /// Whether `character` joins the one before it: a combining mark, a joiner, a
 /// variation selector, a skin tone. Such a character takes the font of the one
 /// that it joins.
@@ -110,8 +112,7 @@ public:
 
 private:
     static std::size_t findBeyondAscii(StringView text, std::size_t from) {
-        constexpr std::uint16_t kFirst = 0x80;
-        return findFirst(text, from, [](auto unit) { return unit >= kFirst; });
+        return findFirst(text, from, [](auto unit) { return unit >= kFirstBeyondAscii; });
     }
 
     /// Whether a run surely keeps its font: it has none or holds only ASCII

@@ -15,11 +15,12 @@ bool paragraphEndsBefore(StringView text, std::size_t position) {
 
 namespace {
 
+constexpr std::uint16_t kLineFeed = u'\n';
+constexpr std::uint16_t kReturn = u'\r';
+constexpr std::uint16_t kParagraphSeparator = 0x2029;
+
 /// The end of the paragraph that is open at `from`, at most `limit`.
 std::size_t paragraphEnd(StringView text, std::size_t from, std::size_t limit) {
-    constexpr std::uint16_t kLineFeed = u'\n';
-    constexpr std::uint16_t kReturn = u'\r';
-    constexpr std::uint16_t kParagraphSeparator = 0x2029;
     const auto mayEnd = [](auto c) {
         return (c == kLineFeed) | (c == kReturn) | (c == kParagraphSeparator);
     };

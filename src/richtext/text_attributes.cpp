@@ -343,6 +343,18 @@ TextAttributes TextAttributes::mergedWith(const TextAttributes& other) const {
     return TextAttributes(Table::shared().nodeFor(std::move(merged), hash));
 }
 
+TextAttributes TextAttributes::intersectedWith(const TextAttributes& other) const {
+    if (*this == other) return *this;
+    std::vector<TextAttribute> common;
+    auto candidate = other.entries().begin();
+    for (const TextAttribute& own : entries()) {
+        while (candidate != other.entries().end() && nameOf(*candidate) < nameOf(own)) ++candidate;
+        if (candidate == other.entries().end()) break;
+        if (equalEntries(own, *candidate)) common.push_back(own);
+    }
+    return TextAttributes(std::move(common));
+}
+
 TextAttributes TextAttributes::textAttributesByRemovingLinkAttributes() const {
     if (link() == nullptr) return *this;
     std::vector<TextAttribute> kept = entries();

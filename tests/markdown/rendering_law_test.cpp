@@ -12,6 +12,7 @@
 #include "markdown/rendering_in_parts.h"
 #include "support/font_scope.h"
 #include "support/markdown_settings.h"
+#include "support/plain_list.h"
 #include "support/printing.h"
 #include "support/rich_text_twin.h"
 #include "tools/qznote/runs_writer.h"
@@ -65,6 +66,7 @@ public:
         renderStyled(kMarkdownHighlightColon, {.delimiter = 2}, highlight, u"highlight");
         renderStyled(kMarkdownBlockQuote, {.group = 2}, quoteStyle(text), u">");
         renderHeaders(text);
+        renderLists();
         return finished();
     }
 
@@ -256,6 +258,32 @@ private:
         });
     }
 
+    static bool hasText(StringView text) {
+        return text.find_first_not_of(u" \t\r\n\u2028") != StringView::npos;
+    }
+
+    /// Whether one line with text and one without stand before the list.
+    bool hasTitle(const RegexMatch& list) const {
+        const String before = live_.text.substr(0, list.range().location);
+        const std::size_t start = before.find_first_not_of(u" \t\r\n\u2028");
+        if (start == String::npos) return false;
+        const auto lines = componentsSeparatedByPattern(
+            StringView(before).substr(start, before.size() - start - 1), u"\n");
+        return lines.size() == 2 && hasText(lines[0]) && !hasText(lines[1]);
+    }
+
+    void renderLists() {
+        forEachMatchFromTheLast(kMarkdownList, [&](const RegexMatch& match) {
+            const Range range = match.range();
+            RichText list(textOf(range));
+            for (std::size_t i = 0; i < range.length; ++i) {
+                list.setAttributes(live_.attributes[range.location + i], {i, 1});
+            }
+            const testing::PlainList rendered(settings_, list, hasTitle(match));
+            live_.replace(range, rendered.result());
+        });
+    }
+
     // ---- The end ----
 
     RichText finished() {
@@ -282,12 +310,16 @@ private:
 
 // ---- Texts and settings -------------------------------------------------------
 
-// What notes are made of, with tabs between.
+// What notes are made of, with dots between.
 constexpr StringView kPieces =
-    u"*\t*\t**\t***\t_\t__\t___\t~~\t==\t^^\t::\t`\t`\t``\t```\t```\n\t\n```\t\n\t\n\t\n# \t\n### "
-    u"\t"
-    u"\n>\t\n> \t[\t](\t](c)\t[a](b)\t![a\t!\ta\tb\ta\t \t\\\t\\*\t\\_\t\\[\t@\t:a:\t:\tsmile\t"
-    u":heart:\t\U0001F600\t\xD83D\t\xDE00\t\r\n\t\u2028\t\u0301\t\0\t<a|b>\ta\n\nb\ta\n\nb\t\n\n\t.\n\n\t(\t)"sv;
+    u"*\u00B7*\u00B7**\u00B7***\u00B7_\u00B7__\u00B7___\u00B7~~\u00B7==\u00B7^^\u00B7"
+    u"::\u00B7`\u00B7`\u00B7``\u00B7```\u00B7```\n\u00B7\n```\u00B7\n\u00B7\n\u00B7"
+    u"\n# \u00B7\n### \u00B7\n>\u00B7\n> \u00B7[\u00B7](\u00B7](c)\u00B7[a](b)\u00B7"
+    u"![a\u00B7!\u00B7a\u00B7b\u00B7a\u00B7 \u00B7\\\u00B7\\*\u00B7\\_\u00B7\\[\u00B7@\u00B7"
+    u":a:\u00B7:\u00B7smile\u00B7:heart:\u00B7\U0001F600\u00B7\xD83D\u00B7\xDE00\u00B7"
+    u"\r\n\u00B7\u2028\u00B7\u0301\u00B7\0\u00B7<a|b>\u00B7a\n\nb\u00B7a\n\nb\u00B7"
+    u"\n\n\u00B7.\n\n\u00B7(\u00B7)\u00B7\n- \u00B7\n- a\u00B7\n* \u00B7\n1. a\u00B7"
+    u"\n12. \u00B7\n    - b\u00B7\n\t+ a\u00B7\n  \u00B7\t\u00B7- \u00B7\na\n\n- b"sv;
 
 constexpr const char* kSettings[] = {
     "",
@@ -303,6 +335,16 @@ constexpr const char* kSettings[] = {
         "Markdown Block Quote Text Color": "", "Markdown Code Block Text Color": "",
         "Markdown Inline Code Text Color": "green", "Link Underline": false,
         "Markdown Header Sizes": "", "Markdown Support Bold": false}})",
+    R"({"preferences": {"Import List Spaces Per Indent": 2, "Markdown Inline Lists Indentions": 4,
+        "Markdown Inline Lists Indent First Level": true,
+        "Markdown Inline Lists Alternate Discs": false,
+        "Markdown Lists Start With Common Attributes": false,
+        "Markdown Inline Lists Marker To Text Gap": 7,
+        "Markdown Inline Lists Line Spacing": 2,
+        "Markdown Inline Lists Paragraph Spacing After": 3},
+        "styles": {"-": {"paragraph-spacing-before": 4, "line-spacing": 1, "font-size": 30}}})",
+    R"({"preferences": {"Import List Spaces Per Indent": 0, "Markdown Support Code Blocks": false,
+        "Markdown Inline Lists Only If Titled Indent First Level": false}})",
     R"({"preferences": {"Markdown RegEx Link": "<?(a*)[|]?(b*)>?"}})",
     R"({"preferences": {"Markdown RegEx Link": "<(a)(?=[|](b))|(?=a)|$"}})",
 };
@@ -337,7 +379,7 @@ private:
         {{NSParagraphStyleAttributeName, Value::boxed(ParagraphStyle{.headIndent = 5})}},
         {{kIgnoreBlockAttributeName, u""}},
     };
-    const std::vector<String> pieces_ = componentsSeparatedByPattern(kPieces, u"\t");
+    const std::vector<String> pieces_ = componentsSeparatedByPattern(kPieces, u"\u00B7");
     std::mt19937 random_{20260102};
 };
 

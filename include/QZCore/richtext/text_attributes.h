@@ -161,6 +161,9 @@ public:
     /// These attributes and those of `other`, which win.
     [[nodiscard]] TextAttributes mergedWith(const TextAttributes& other) const;
 
+    /// The attributes that both hold with the same value.
+    [[nodiscard]] TextAttributes intersectedWith(const TextAttributes& other) const;
+
     /// These attributes as they are without a link: when there is one, it is
     /// left out together with the foreground colour and the underline style
     /// that showed it.

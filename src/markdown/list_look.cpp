@@ -1,0 +1,76 @@
+#include "markdown/list_look.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace QZCore {
+namespace {
+
+constexpr StringView kListStyleName = u"-";
+constexpr double kDefaultFontSize = 12;
+
+/// The paragraph style that all items start from.
+ParagraphStyle baseStyle(const StyleSheet& styles, const Preferences& preferences,
+                         const TextAttributes& prefix, const Font& font) {
+    const Dictionary defaults{
+        {kStyleLineSpacing, preferences.doubleForKey(u"Markdown Inline Lists Line Spacing", 0)},
+        {kStyleParagraphSpacingAfter,
+         preferences.doubleForKey(u"Markdown Inline Lists Paragraph Spacing After", 0)},
+    };
+    const Value* style = styles.find(kListStyleName);
+    const TextAttributes resolved = fontAttributesWithDefaultStyle(
+        &defaults, style == nullptr ? nullptr : style->dictionary(), font);
+    ParagraphStyle base;
+    const bool startsWithPrefix =
+        preferences.boolForKey(u"Markdown Lists Start With Common Attributes", true);
+    if (startsWithPrefix && prefix.paragraphStyle() != nullptr) base = *prefix.paragraphStyle();
+    const ParagraphStyle& spacing = *resolved.paragraphStyle();
+    base.firstLineHeadIndent = 0;
+    base.lineSpacing = spacing.lineSpacing;
+    base.paragraphSpacingBefore = spacing.paragraphSpacingBefore;
+    base.paragraphSpacing = spacing.paragraphSpacing;
+    return base;
+}
+
+/// The widest number that a list of so many items needs, by the number of its
+/// tens.
+String widestNumber(std::size_t siblings) { return String(siblings / 10, u'9') + u"9."; }
+
+}  // namespace
+
+ListLook::ListLook(const StyleSheet& styles, const Preferences& preferences,
+                   const TextAttributes& prefix, bool indentsFirstLevel)
+    : fonts_(FontManager::shared()),
+      font_(prefix.font() == nullptr ? fonts_.userFont(kDefaultFontSize) : *prefix.font()),
+      base_(baseStyle(styles, preferences, prefix, font_)),
+      alternatesDiscs_(preferences.boolForKey(u"Markdown Inline Lists Alternate Discs", true)),
+      levelsLess_(indentsFirstLevel ? 0 : 1),
+      indention_(preferences.doubleForKey(u"Markdown Inline Lists Indentions", 9)),
+      gap_(preferences.doubleForKey(u"Markdown Inline Lists Marker To Text Gap", 5)) {}
+
+String ListLook::markerOf(const ListItem& item) const {
+    if (item.isNumbered()) return integerString(static_cast<std::int64_t>(item.position)) + u".";
+    const bool isEvenLevel = item.level % 2 == 0;
+    return alternatesDiscs_ && isEvenLevel ? u"\u25E6" : u"\u25CF";
+}
+
+double ListLook::markerWidthOf(const ListItem& item) const {
+    const String sample = item.isNumbered() ? widestNumber(item.siblings) : markerOf(item);
+    return std::ceil(fonts_.widthOfText(sample, font_));
+}
+
+ParagraphStyle ListLook::styleOf(const ListItem& item, std::vector<TextList> textLists) const {
+    const double width = markerWidthOf(item);
+    const double level = item.level;
+    const double indent =
+        std::max(width, level * width + (level - levelsLess_) * indention_ + gap_);
+    ParagraphStyle style = base_;
+    style.textLists = std::move(textLists);
+    style.headIndent = indent;
+    // Markers of different widths end at the same place.
+    style.tabStops = {{TextAlignment::Right, indent - gap_}, {TextAlignment::Natural, indent}};
+    return style;
+}
+
+}  // namespace QZCore

@@ -1,0 +1,77 @@
+#include "markdown/list_writer.h"
+
+#include <algorithm>
+
+#include "markdown/render_text.h"
+#include "richtext/attribute_names.h"
+
+namespace QZCore {
+namespace {
+
+constexpr double kDefaultFontSize = 12;
+
+TextAttributes lineFeedAttributes() {
+    return {
+        {attributeNames().font, Value::boxed(FontManager::shared().userFont(kDefaultFontSize))}};
+}
+
+}  // namespace
+
+ListWriter::ListWriter(ListLook look, const TextAttributes& prefix, std::vector<TextList> textLists,
+                       FlatWriter& out, AttributePalette& palette)
+    : look_(std::move(look)),
+      out_(out),
+      palette_(palette),
+      prefix_(palette.idOf(prefix)),
+      lineFeed_(palette.idOf(lineFeedAttributes())),
+      outermost_(std::move(textLists)) {}
+
+std::uint32_t ListWriter::pushed(std::uint32_t lists, StringView markerFormat) {
+    const auto next = static_cast<std::uint32_t>(pushed_.size());
+    const auto [at, isNew] = numbers_.try_emplace({lists, String(markerFormat)}, next);
+    if (isNew) pushed_.push_back({lists, String(markerFormat)});
+    return at->second;
+}
+
+void ListWriter::writeItem(const ListItem& item, std::uint32_t lists, const FlatSlice& text,
+                           RunWalk& runs) {
+    Paragraph& paragraph = paragraphOf(item, lists);
+    const auto inParagraph = [&](std::uint32_t id) {
+        const std::uint32_t mark = id & kIgnoreMark;
+        return mark | paragraph.ids(id & ~kIgnoreMark, [&](std::uint32_t old) {
+            const TextAttributes before = palette_.at(old);
+            return palette_.idOf(
+                before.withAttribute(attributeNames().paragraphStyle, paragraph.style));
+        });
+    };
+    out_.append(u"\t" + look_.markerOf(item) + u"\t", inParagraph(prefix_));
+    out_.append(text, runs, inParagraph);
+    if (!out_.text().ends_with(u'\n')) out_.append(u"\n", lineFeed_);
+}
+
+void ListWriter::writeOther(const FlatSlice& text, RunWalk& runs) {
+    out_.append(text, runs);
+    out_.append(u"\n", lineFeed_);
+}
+
+ListWriter::Paragraph& ListWriter::paragraphOf(const ListItem& item, std::uint32_t lists) {
+    const ParagraphKey key{lists, item.level, ListLook::widthClassOf(item)};
+    if (last_ != nullptr && key == lastKey_) return *last_;
+    const auto [at, isNew] = paragraphs_.try_emplace(key);
+    if (isNew) at->second.style = Value::boxed(look_.styleOf(item, textListsOf(lists)));
+    last_ = &at->second;
+    lastKey_ = key;
+    return *last_;
+}
+
+std::vector<TextList> ListWriter::textListsOf(std::uint32_t lists) const {
+    std::vector<TextList> inner;
+    for (; lists != kOutermost; lists = pushed_[lists].outer) {
+        inner.push_back({pushed_[lists].markerFormat});
+    }
+    std::vector<TextList> textLists = outermost_;
+    textLists.insert(textLists.end(), inner.rbegin(), inner.rend());
+    return textLists;
+}
+
+}  // namespace QZCore

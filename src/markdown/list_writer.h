@@ -1,0 +1,73 @@
+// List items as paragraphs of a flat text.
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "markdown/flat_writer.h"
+#include "markdown/list_look.h"
+#include "richtext/number_map.h"
+
+namespace QZCore {
+
+class ListWriter {
+public:
+    /// Writes to `out`, numbered by `palette`. `prefix` are the attributes of
+    /// the markers, `textLists` the lists around the list itself.
+    ListWriter(ListLook look, const TextAttributes& prefix, std::vector<TextList> textLists,
+               FlatWriter& out, AttributePalette& palette);
+
+    /// The text lists around the list itself, by their number.
+    static constexpr std::uint32_t kOutermost = 0;
+    /// The number of the text lists `lists` with one more inside.
+    [[nodiscard]] std::uint32_t pushed(std::uint32_t lists, StringView markerFormat);
+
+    /// Adds an item that stands in the text lists `lists` as a paragraph.
+    void writeItem(const ListItem& item, std::uint32_t lists, const FlatSlice& text, RunWalk& runs);
+    /// Adds a line that is no item as a paragraph.
+    void writeOther(const FlatSlice& text, RunWalk& runs);
+    /// Adds text with the attributes of the markers.
+    void writePlain(StringView text) { out_.append(text, prefix_); }
+
+private:
+    /// Items with the same key share their paragraph style.
+    struct ParagraphKey {
+        std::uint32_t lists = 0;
+        std::uint32_t level = 0;
+        std::size_t widthClass = 0;
+
+        friend auto operator<=>(const ParagraphKey&, const ParagraphKey&) = default;
+    };
+
+    /// A paragraph style, and sets of attributes with it put in.
+    struct Paragraph {
+        Value style;
+        NumberMap ids;
+    };
+
+    [[nodiscard]] Paragraph& paragraphOf(const ListItem& item, std::uint32_t lists);
+    [[nodiscard]] std::vector<TextList> textListsOf(std::uint32_t lists) const;
+
+    /// Text lists that lie in others.
+    struct Pushed {
+        std::uint32_t outer = kOutermost;
+        String markerFormat;
+    };
+
+    ListLook look_;
+    FlatWriter& out_;
+    AttributePalette& palette_;
+    std::uint32_t prefix_;
+    std::uint32_t lineFeed_;
+    std::vector<TextList> outermost_;
+    std::vector<Pushed> pushed_{Pushed{}};  // by number, the outermost first
+    std::map<std::pair<std::uint32_t, String>, std::uint32_t> numbers_;
+    std::map<ParagraphKey, Paragraph> paragraphs_;
+    ParagraphKey lastKey_;
+    Paragraph* last_ = nullptr;
+};
+
+}  // namespace QZCore
