@@ -66,12 +66,12 @@ template <class Units>
 [[nodiscard]] auto endsLine(Units units) {
     // Lanes are compared with numbers of their own type.
     constexpr std::uint16_t kLineFeed = u'\n';
-    constexpr std::uint16_t kReturn = u'\r';
+    constexpr std::uint16_t kFromLineFeedToReturn = u'\r' - u'\n';
     constexpr std::uint16_t kNextLine = 0x85;
-    constexpr std::uint16_t kLineSeparator = 0x2028;
-    constexpr std::uint16_t kParagraphSeparator = 0x2029;
-    return ((units >= kLineFeed) & (units <= kReturn)) | (units == kNextLine) |
-           (units == kLineSeparator) | (units == kParagraphSeparator);
+    constexpr std::uint16_t kAllButLast = 0xFFFE;
+    constexpr std::uint16_t kLineOrParagraphSeparator = 0x2028;
+    return (static_cast<Units>(units - kLineFeed) <= kFromLineFeedToReturn) | (units == kNextLine) |
+           ((units & kAllButLast) == kLineOrParagraphSeparator);
 }
 
 /// The first line end at or after `from`, or the length of the text.

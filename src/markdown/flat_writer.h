@@ -14,7 +14,10 @@ namespace QZCore {
 /// the one asked last.
 class RunWalk {
 public:
+    /// Starts at the first run, or at the one that holds `position`.
     explicit RunWalk(std::span<const FlatRun> runs) : run_(runs.data()) {}
+    RunWalk(std::span<const FlatRun> runs, std::uint32_t position)
+        : run_(&*std::ranges::upper_bound(runs, position, {}, &FlatRun::end)) {}
 
     /// The number of the attributes at `position`.
     [[nodiscard]] std::uint32_t idAt(std::uint32_t position) {

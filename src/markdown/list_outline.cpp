@@ -11,21 +11,10 @@ namespace QZCore {
 namespace {
 
 /// How deep the indentation of an item line puts it.
-class Indentation {
-public:
-    explicit Indentation(const Preferences& preferences)
-        : blanksPerLevel_(static_cast<std::size_t>(std::max<std::int64_t>(
-              1, preferences.integerForKey(u"Import List Spaces Per Indent", 4)))) {}
-
-    [[nodiscard]] std::size_t levelOf(StringView indentation) const {
-        if (indentation.empty()) return 0;
-        if (indentation.front() == u'\t') return indentation.size();
-        return indentation.size() / blanksPerLevel_;
-    }
-
-private:
-    std::size_t blanksPerLevel_;
-};
+std::size_t levelOf(StringView indentation, std::size_t blanksPerLevel) {
+    if (indentation.starts_with(u'\t')) return indentation.size();
+    return indentation.size() / blanksPerLevel;
+}
 
 /// Puts items under each other.
 class Nesting {
@@ -63,39 +52,46 @@ std::size_t behindLineEnd(StringView text, std::size_t at) {
 }  // namespace
 
 void joinWrappedLines(String& list) {
-    for (std::size_t at = 1; at + 1 < list.size(); ++at) {
-        if (list[at] == u'\n' && isLetter(codePointAt(list, at + 1).value)) list[at] = u' ';
+    if (list.empty()) return;
+    std::size_t at = 0;
+    while ((at = findUnit(list, at + 1, u'\n')) + 1 < list.size()) {
+        if (isLetter(codePointAt(list, at + 1).value)) list[at] = u' ';
     }
 }
 
-std::vector<ListLine> listLines(StringView list, const MarkdownExpression& listLine,
-                                const Preferences& preferences) {
-    std::vector<SpanMatch> items;
-    findMatches(listLine, list, items);
-    std::vector<ListLine> lines;
-    lines.reserve(items.size());
+ListLineReader::ListLineReader(const MarkdownExpression& listLine, const Preferences& preferences)
+    : listLine_(listLine),
+      blanksPerLevel_(static_cast<std::size_t>(std::max<std::int64_t>(
+          1, preferences.integerForKey(u"Import List Spaces Per Indent", 4)))) {}
+
+const std::vector<ListLine>& ListLineReader::linesOf(StringView list) {
+    items_.clear();
+    findMatches(listLine_, list, items_);
+    lines_.clear();
     std::size_t at = 0;
-    const auto addOtherLinesUpTo = [&](std::size_t end) {
-        if (at > 0) at = behindLineEnd(list, at);
-        while (at < end) {
-            const std::size_t lineEnd = findLineEnd(list, at);
-            lines.push_back({.text = spanOf(at, lineEnd)});
-            at = behindLineEnd(list, lineEnd);
-        }
-    };
-    const Indentation indentation(preferences);
     Nesting nesting;
-    for (const SpanMatch& item : items) {
-        addOtherLinesUpTo(item.whole.start);
+    for (const SpanMatch& item : items_) {
+        addOtherLines(list, at, item.whole.start);
         const auto [blanks, marker, text] = item.groups;
         ListLine line{.isNumbered = !isBullet(list[marker.start]), .text = text};
-        nesting.place(line, static_cast<std::uint32_t>(lines.size()),
-                      indentation.levelOf(list.substr(blanks.start, blanks.end - blanks.start)));
-        lines.push_back(line);
+        const StringView indentation = list.substr(blanks.start, blanks.end - blanks.start);
+        nesting.place(line, static_cast<std::uint32_t>(lines_.size()),
+                      levelOf(indentation, blanksPerLevel_));
+        lines_.push_back(line);
         at = item.whole.end;
     }
-    addOtherLinesUpTo(list.size());
-    return lines;
+    addOtherLines(list, at, list.size());
+    return lines_;
+}
+
+/// Adds the lines from the end of a line, or from the start of the list, on.
+void ListLineReader::addOtherLines(StringView list, std::size_t from, std::size_t to) {
+    if (from > 0) from = behindLineEnd(list, from);
+    while (from < to) {
+        const std::size_t lineEnd = findLineEnd(list, from);
+        lines_.push_back({.text = spanOf(from, lineEnd)});
+        from = behindLineEnd(list, lineEnd);
+    }
 }
 
 }  // namespace QZCore

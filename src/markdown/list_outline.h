@@ -34,9 +34,23 @@ struct ListLine {
 /// a wrapped line joins its item. A line feed at either end stays.
 void joinWrappedLines(String& list);
 
-/// The lines of a list whose wrapped lines are joined. What is no item is there
-/// too, so that nothing is lost.
-[[nodiscard]] std::vector<ListLine> listLines(StringView list, const MarkdownExpression& listLine,
-                                              const Preferences& preferences);
+/// Reads the lines of lists whose wrapped lines are joined. What is no item is
+/// there too, so that nothing is lost.
+class ListLineReader {
+public:
+    /// `listLine` is the row of single items; it must outlive this.
+    ListLineReader(const MarkdownExpression& listLine, const Preferences& preferences);
+
+    /// The lines of `list`. Valid until the next call.
+    [[nodiscard]] const std::vector<ListLine>& linesOf(StringView list);
+
+private:
+    void addOtherLines(StringView list, std::size_t from, std::size_t to);
+
+    const MarkdownExpression& listLine_;
+    std::size_t blanksPerLevel_;
+    std::vector<SpanMatch> items_;
+    std::vector<ListLine> lines_;
+};
 
 }  // namespace QZCore

@@ -3,31 +3,12 @@
 #include <algorithm>
 
 #include "foundation/unit_search.h"
-#include "markdown/list_outline.h"
 #include "markdown/list_title.h"
-#include "markdown/list_writer.h"
 
 namespace QZCore {
 namespace {
 
 constexpr StringView kBlankLine = u"\n\n";
-
-/// What all runs from `start` to `end` have in common.
-TextAttributes commonAttributes(std::span<const FlatRun> runs, std::uint32_t start,
-                                std::uint32_t end, const AttributePalette& palette) {
-    std::vector<bool> seen(palette.size());
-    TextAttributes common;
-    bool isFirst = true;
-    RunWalk walk(runs);
-    walk.visit(start, end, [&](std::uint32_t, std::uint32_t id) {
-        id &= ~kIgnoreMark;
-        if (seen[id]) return;
-        seen[id] = true;
-        common = isFirst ? palette.at(id) : common.intersectedWith(palette.at(id));
-        isFirst = false;
-    });
-    return common;
-}
 
 bool indentsFirstLevel(const Preferences& preferences, bool hasTitle) {
     if (preferences.boolForKey(u"Markdown Inline Lists Indent First Level")) return true;
@@ -37,13 +18,13 @@ bool indentsFirstLevel(const Preferences& preferences, bool hasTitle) {
 
 StringView formatOf(const ListLine& line) { return line.isNumbered ? kDecimalFormat : kDiscFormat; }
 
-/// The number of items under each line, and last of those under none.
-std::vector<std::uint32_t> numbersOfChildren(const std::vector<ListLine>& lines) {
-    std::vector<std::uint32_t> numbers(lines.size() + 1);
+/// Puts the number of items under each line into `numbers`, and last of those
+/// under none.
+void countChildren(const std::vector<ListLine>& lines, std::vector<std::uint32_t>& numbers) {
+    numbers.assign(lines.size() + 1, 0);
     for (const ListLine& line : lines) {
         if (line.isItem()) ++numbers[std::min<std::size_t>(line.parent, lines.size())];
     }
-    return numbers;
 }
 
 /// Tells which list of a note has a title. None has in a part of it that does not
@@ -68,49 +49,72 @@ private:
 
 }  // namespace
 
-void writeList(const FlatSlice& markdown, std::span<const FlatRun> runs, bool hasTitle,
-               const ListSettings& settings, AttributePalette& palette, FlatWriter& out) {
-    const StringView units = markdown.units;
-    const TextAttributes prefix = commonAttributes(
-        runs, markdown.start, markdown.start + static_cast<std::uint32_t>(units.size()), palette);
-    const bool endsBlank = units.ends_with(kBlankLine);
-    String list(units);
-    joinWrappedLines(list);
-    if (endsBlank) list.resize(list.size() - kBlankLine.size());
-    const std::vector<ListLine> lines = listLines(list, settings.listLine, settings.preferences);
-    const std::vector<std::uint32_t> children = numbersOfChildren(lines);
-    std::vector<std::uint32_t> listsBelow(lines.size());
+/// What all runs of a list have in common.
+TextAttributes ListRenderer::commonAttributes(std::span<const FlatRun> runs,
+                                              const FlatSlice& list) {
+    ++list_;
+    TextAttributes common;
+    bool isFirst = true;
+    const auto end = list.start + static_cast<std::uint32_t>(list.units.size());
+    RunWalk(runs, list.start).visit(list.start, end, [&](std::uint32_t, std::uint32_t id) {
+        id &= ~kIgnoreMark;
+        if (id >= metIn_.size()) metIn_.resize(palette_.size());
+        if (std::exchange(metIn_[id], list_) == list_) return;
+        common = isFirst ? palette_.at(id) : common.intersectedWith(palette_.at(id));
+        isFirst = false;
+    });
+    return common;
+}
 
-    ListWriter writer(ListLook(settings.styles, settings.preferences, prefix,
-                               indentsFirstLevel(settings.preferences, hasTitle)),
-                      prefix, {}, out, palette);
-    RunWalk walk(runs);
+ListWriter& ListRenderer::writerFor(const TextAttributes& prefix, bool hasTitle) {
+    const bool indents = indentsFirstLevel(settings_.preferences, hasTitle);
+    const std::pair key{palette_.idOf(prefix), indents};
+    const auto known = writers_.find(key);
+    if (known != writers_.end()) return known->second;
+    ListLook look(settings_.styles, settings_.preferences, prefix, indents);
+    return writers_.try_emplace(key, std::move(look), prefix, std::vector<TextList>(), palette_)
+        .first->second;
+}
+
+void ListRenderer::write(const FlatSlice& markdown, std::span<const FlatRun> runs, bool hasTitle,
+                         FlatWriter& out) {
+    ListWriter& writer = writerFor(commonAttributes(runs, markdown), hasTitle);
+    text_ = markdown.units;
+    joinWrappedLines(text_);
+    StringView list = text_;
+    const bool endsBlank = list.ends_with(kBlankLine);
+    if (endsBlank) list.remove_suffix(kBlankLine.size());
+    const std::vector<ListLine>& lines = reader_.linesOf(list);
+    countChildren(lines, children_);
+    listsBelow_.resize(lines.size());
+    RunWalk walk(runs, markdown.start);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const ListLine& line = lines[i];
-        const FlatSlice text{
-            StringView(list).substr(line.text.start, line.text.end - line.text.start),
-            markdown.start + line.text.start};
+        const SpanMatch::Span span = line.text;
+        const FlatSlice text{list.substr(span.start, span.end - span.start),
+                             markdown.start + span.start};
         if (!line.isItem()) {
-            writer.writeOther(text, walk);
+            writer.writeOther(text, walk, out);
             continue;
         }
         const bool isOutermost = line.parent == kNoListLine;
-        const std::uint32_t lists = isOutermost ? ListWriter::kOutermost : listsBelow[line.parent];
-        // Only sub-items ask for it, and only they make lists differ.
-        if (children[i] > 0) listsBelow[i] = writer.pushed(lists, formatOf(line));
-        const std::uint32_t siblings = children[isOutermost ? lines.size() : line.parent];
-        writer.writeItem({formatOf(line), line.level, line.position, siblings}, lists, text, walk);
+        const std::uint32_t lists = isOutermost ? ListWriter::kOutermost : listsBelow_[line.parent];
+        // Only sub-items ask for it.
+        if (children_[i] > 0) listsBelow_[i] = writer.pushed(lists, formatOf(line));
+        const std::uint32_t siblings = children_[isOutermost ? lines.size() : line.parent];
+        writer.writeItem({formatOf(line), line.level, line.position, siblings}, lists, text, walk,
+                         out);
     }
-    if (endsBlank) writer.writePlain(kBlankLine);
+    if (endsBlank) writer.writePlain(kBlankLine, out);
 }
 
-void renderLists(RenderText& text, bool startsNote, const ListSettings& settings) {
+void renderLists(RenderText& text, bool startsNote, ListRenderer& renderer) {
     const Titles titles(startsNote ? text.live() : StringView());
-    text.rewrite([&](const SpanMatch& match, FlatText& flat, FlatWriter& out) {
+    text.rewrite([&](const SpanMatch& match, const FlatText& flat, FlatWriter& out) {
         const std::uint32_t start = match.whole.start;
         const StringView live = flat.text;
-        writeList({live.substr(start, match.whole.end - start), start}, flat.runs,
-                  titles.hasTitle(live, start), settings, flat.palette, out);
+        renderer.write({live.substr(start, match.whole.end - start), start}, flat.runs,
+                       titles.hasTitle(live, start), out);
     });
 }
 

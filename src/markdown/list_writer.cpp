@@ -18,9 +18,8 @@ TextAttributes lineFeedAttributes() {
 }  // namespace
 
 ListWriter::ListWriter(ListLook look, const TextAttributes& prefix, std::vector<TextList> textLists,
-                       FlatWriter& out, AttributePalette& palette)
+                       AttributePalette& palette)
     : look_(std::move(look)),
-      out_(out),
       palette_(palette),
       prefix_(palette.idOf(prefix)),
       lineFeed_(palette.idOf(lineFeedAttributes())),
@@ -34,24 +33,26 @@ std::uint32_t ListWriter::pushed(std::uint32_t lists, StringView markerFormat) {
 }
 
 void ListWriter::writeItem(const ListItem& item, std::uint32_t lists, const FlatSlice& text,
-                           RunWalk& runs) {
+                           RunWalk& runs, FlatWriter& out) {
     Paragraph& paragraph = paragraphOf(item, lists);
-    const auto inParagraph = [&](std::uint32_t id) {
-        const std::uint32_t mark = id & kIgnoreMark;
-        return mark | paragraph.ids(id & ~kIgnoreMark, [&](std::uint32_t old) {
-            const TextAttributes before = palette_.at(old);
-            return palette_.idOf(
-                before.withAttribute(attributeNames().paragraphStyle, paragraph.style));
-        });
-    };
-    out_.append(u"\t" + look_.markerOf(item) + u"\t", inParagraph(prefix_));
-    out_.append(text, runs, inParagraph);
-    if (!out_.text().ends_with(u'\n')) out_.append(u"\n", lineFeed_);
+    out.append(u"\t" + look_.markerOf(item) + u"\t", inParagraph(paragraph, prefix_));
+    out.append(text, runs, [&](std::uint32_t id) { return inParagraph(paragraph, id); });
+    if (!out.text().ends_with(u'\n')) out.append(u"\n", lineFeed_);
 }
 
-void ListWriter::writeOther(const FlatSlice& text, RunWalk& runs) {
-    out_.append(text, runs);
-    out_.append(u"\n", lineFeed_);
+void ListWriter::writeOther(const FlatSlice& text, RunWalk& runs, FlatWriter& out) const {
+    out.append(text, runs);
+    out.append(u"\n", lineFeed_);
+}
+
+/// The number of the attributes `id` with the style of the paragraph put in.
+std::uint32_t ListWriter::inParagraph(Paragraph& paragraph, std::uint32_t id) {
+    const std::uint32_t mark = id & kIgnoreMark;
+    return mark | paragraph.ids(id & ~kIgnoreMark, [&](std::uint32_t old) {
+        const TextAttributes before = palette_.at(old);
+        return palette_.idOf(
+            before.withAttribute(attributeNames().paragraphStyle, paragraph.style));
+    });
 }
 
 ListWriter::Paragraph& ListWriter::paragraphOf(const ListItem& item, std::uint32_t lists) {

@@ -13,12 +13,14 @@
 
 namespace QZCore {
 
+/// Writes the items of lists whose markers look alike.
 class ListWriter {
 public:
-    /// Writes to `out`, numbered by `palette`. `prefix` are the attributes of
-    /// the markers, `textLists` the lists around the list itself.
+    /// Numbers attributes by `palette`, which must outlive this. `prefix` are
+    /// the attributes of the markers, `textLists` the lists around each list
+    /// itself.
     ListWriter(ListLook look, const TextAttributes& prefix, std::vector<TextList> textLists,
-               FlatWriter& out, AttributePalette& palette);
+               AttributePalette& palette);
 
     /// The text lists around the list itself, by their number.
     static constexpr std::uint32_t kOutermost = 0;
@@ -26,11 +28,12 @@ public:
     [[nodiscard]] std::uint32_t pushed(std::uint32_t lists, StringView markerFormat);
 
     /// Adds an item that stands in the text lists `lists` as a paragraph.
-    void writeItem(const ListItem& item, std::uint32_t lists, const FlatSlice& text, RunWalk& runs);
+    void writeItem(const ListItem& item, std::uint32_t lists, const FlatSlice& text, RunWalk& runs,
+                   FlatWriter& out);
     /// Adds a line that is no item as a paragraph.
-    void writeOther(const FlatSlice& text, RunWalk& runs);
+    void writeOther(const FlatSlice& text, RunWalk& runs, FlatWriter& out) const;
     /// Adds text with the attributes of the markers.
-    void writePlain(StringView text) { out_.append(text, prefix_); }
+    void writePlain(StringView text, FlatWriter& out) const { out.append(text, prefix_); }
 
 private:
     /// Items with the same key share their paragraph style.
@@ -50,6 +53,7 @@ private:
 
     [[nodiscard]] Paragraph& paragraphOf(const ListItem& item, std::uint32_t lists);
     [[nodiscard]] std::vector<TextList> textListsOf(std::uint32_t lists) const;
+    [[nodiscard]] std::uint32_t inParagraph(Paragraph& paragraph, std::uint32_t id);
 
     /// Text lists that lie in others.
     struct Pushed {
@@ -58,7 +62,6 @@ private:
     };
 
     ListLook look_;
-    FlatWriter& out_;
     AttributePalette& palette_;
     std::uint32_t prefix_;
     std::uint32_t lineFeed_;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "QZCore/markdown/detection.h"
@@ -91,7 +92,11 @@ private:
         const MarkdownExpression* list = syntax_.expressionForKey(kMarkdownList);
         const MarkdownExpression* line = syntax_.expressionForKey(kMarkdownListLine);
         if (list == nullptr || line == nullptr || text_.find(*list).empty()) return;
-        renderLists(text_, startsNote, {context_.styles, context_.preferences, *line});
+        if (!lists_) {
+            const ListSettings settings{context_.styles, context_.preferences, *line};
+            lists_.emplace(settings, text_.palette());
+        }
+        renderLists(text_, startsNote, *lists_);
     }
 
     const MarkdownSyntax& syntax_;
@@ -101,6 +106,7 @@ private:
     AddedAttributes body_;
     AttributeFixing fixing_;
     std::array<Pass, kPasses.size()> passes_;
+    std::optional<ListRenderer> lists_;
 };
 
 /// A rich text.

@@ -1,9 +1,7 @@
 #include "richtext/font_fixing.h"
 
-#include <algorithm>
 #include <deque>
 #include <optional>
-#include <span>
 #include <utility>
 
 #include "foundation/unit_search.h"
@@ -96,18 +94,19 @@ public:
 
     void fix(FlatText& text) {
         beyondAscii_ = findBeyondAscii(text.text, 0);
-        const auto wanting = std::ranges::find_if_not(
-            text.runs, [&, start = std::size_t{0}](const FlatRun& run) mutable {
-                return keepsFont(std::exchange(start, run.end), run, text);
-            });
-        if (wanting == text.runs.end()) return;
-        fixed_.assign(text.runs.begin(), wanting);
-        std::size_t start = fixed_.empty() ? 0 : fixed_.back().end;
-        for (const FlatRun& run : std::span(wanting, text.runs.end())) {
-            addRun(start, run, text);
+        fixed_.clear();
+        fixed_.reserve(text.runs.size());
+        changed_ = false;
+        std::size_t start = 0;
+        for (const FlatRun& run : text.runs) {
+            if (keepsFont(start, run, text)) {
+                appendRun(fixed_, run.end, run.id);
+            } else {
+                fixRun(start, run, text);
+            }
             start = run.end;
         }
-        std::swap(text.runs, fixed_);
+        if (changed_) std::swap(text.runs, fixed_);
     }
 
 private:
@@ -125,8 +124,7 @@ private:
         return beyondAscii_ >= run.end;
     }
 
-    void addRun(std::size_t start, const FlatRun& run, FlatText& flat) {
-        if (keepsFont(start, run, flat)) return appendRun(fixed_, run.end, run.id);
+    void fixRun(std::size_t start, const FlatRun& run, FlatText& flat) {
         Substitutes& substitutes = *substitutesFor(run.id, flat.palette);
         const StringView text = StringView(flat.text).substr(0, run.end);
         std::uint32_t id = run.id;
@@ -140,6 +138,7 @@ private:
                 id = idInFont(run.id, substitutes.font(), substitutes.fontFor(point.value),
                               flat.palette);
             }
+            changed_ |= id != run.id;
             start = end + point.length;
             appendRun(fixed_, static_cast<std::uint32_t>(start), id);
         }
@@ -187,6 +186,7 @@ private:
     Substitutes* lastSubstitutes_ = nullptr;
     std::size_t beyondAscii_ = 0;  // the next unit that is not ASCII
     std::vector<FlatRun> fixed_;
+    bool changed_ = false;
 };
 
 FontFixing::FontFixing(const FontCatalog& catalog) : impl_(std::make_unique<Impl>(catalog)) {}
