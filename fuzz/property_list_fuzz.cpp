@@ -18,7 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(!again.isAbsent());
     require(writePropertyList(again).data == written.data);
 
-    const Value last = readPropertyList(*written.data, PropertyListContainers::Mutable).value;
-    require(writePropertyList(last).data == written.data);
+    // What is not a number does not equal itself.
+    if (textOf(*written.data).find("<real>nan</real>") != std::string_view::npos) return 0;
+    require(readPropertyList(*written.data, PropertyListContainers::Mutable).value == again);
     return 0;
 }

@@ -22,6 +22,8 @@ public:
     void beginDictionary() { begin(true); }
     /// Ends the innermost container.
     void end();
+    /// How many containers have begun and not ended.
+    [[nodiscard]] std::size_t depth() const { return levels_.size(); }
     /// The key of the next value, a string.
     void key(Value key);
     /// A value that is not a container.

@@ -155,7 +155,7 @@ std::optional<Date> propertyListDate(std::string_view text) {
     if (!day || !hour || !minute || !second) return std::nullopt;
     if (!scanner.take('Z') || !scanner.atEnd()) return std::nullopt;
     const std::int64_t seconds = daysFromCivil({*year, *month, *day}) * kSecondsPerDay +
-                                 *hour * 3600 + *minute * 60 + *second;
+                                 std::int64_t{*hour} * 3600 + std::int64_t{*minute} * 60 + *second;
     const Date date{static_cast<double>(seconds)};
     if (std::abs(date.secondsSince1970) > kFarthestDate) return std::nullopt;
     return date;

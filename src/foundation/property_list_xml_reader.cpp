@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 
 #include "foundation/base64.h"
 #include "foundation/property_list_builder.h"
@@ -96,9 +97,7 @@ private:
         self(data).start(elementOf(name), attributes[0] != nullptr);
     }
 
-    static void XMLCALL endTag(void* data, const XML_Char* name) {
-        self(data).end(elementOf(name));
-    }
+    static void XMLCALL endTag(void* data, const XML_Char*) { self(data).end(); }
 
     static void XMLCALL characters(void* data, const XML_Char* text, int length) {
         self(data).addText({text, static_cast<std::size_t>(length)});
@@ -149,14 +148,13 @@ private:
         stopIfFailed();
     }
 
-    void end(Element element) {
-        if (builder_.failed() || element == Element::Root) return;
-        if (element == Element::List || element == Element::Dictionary) {
-            builder_.end();
-        } else {
-            endText(element);
-            inText_ = Element::None;
+    /// Ends what began last: an element with a text, a container, or the list.
+    void end() {
+        if (inText_ != Element::None) {
+            endText(std::exchange(inText_, Element::None));
             text_.clear();
+        } else if (builder_.depth() > 0) {
+            builder_.end();
         }
         stopIfFailed();
     }
