@@ -136,7 +136,10 @@ String unsignedString(std::uint64_t value) {
 
 String shortestString(double value) {
     std::array<char, 32> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    const double magnitude = std::fabs(value);
+    const bool isPlain = value == 0 || (magnitude >= 1e-6 && magnitude < 1e21);
+    const auto format = isPlain ? std::chars_format::fixed : std::chars_format::scientific;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, format).ptr;
     return asciiString(digits.data(), end);
 }
 

@@ -1,5 +1,6 @@
 #include "QZCore/foundation/text.h"
 
+#include <cmath>
 #include <limits>
 
 #include "support/printing.h"
@@ -64,8 +65,35 @@ TEST_CASE("numbers print without the host's locale") {
     CHECK(fixedString(0.5, 6) == u"0.500000");
     CHECK(fixedString(2.5, 0) == u"2");
     CHECK(fixedString(-0.25, 1) == u"-0.2");
-    CHECK(shortestString(0.1) == u"0.1");
     CHECK(fixedString(1e300, 2).size() == 304);
+}
+
+TEST_CASE("a number prints so that it reads back, in plain digits where people would") {
+    struct Row {
+        double value;
+        StringView text;
+    };
+    const Row rows[] = {
+        {0.1, u"0.1"},
+        {0.0, u"0"},
+        {-0.0, u"-0"},
+        {100000, u"100000"},
+        {-1.5e20, u"-150000000000000000000"},
+        {1e21, u"1e+21"},
+        {0.000001, u"0.000001"},
+        {1e-7, u"1e-07"},
+        {5e-324, u"5e-324"},
+        {1.7976931348623157e308, u"1.7976931348623157e+308"},
+        {-0.0000012345678901234567, u"-0.0000012345678901234567"},
+        {HUGE_VAL, u"inf"},
+        {-HUGE_VAL, u"-inf"},
+        {std::nan(""), u"nan"},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.text);
+        CHECK(shortestString(row.value) == row.text);
+        if (std::isfinite(row.value)) CHECK(doubleValue(row.text) == row.value);
+    }
 }
 
 }  // namespace QZCore

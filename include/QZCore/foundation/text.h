@@ -123,8 +123,9 @@ struct ReadNumber {
 /// The decimal digits of `value`.
 [[nodiscard]] QZ_EXPORT String unsignedString(std::uint64_t value);
 
-/// The shortest decimal text that reads back as `value`; "nan", "inf" and
-/// "-inf" for what is not finite.
+/// The shortest decimal text that reads back as `value`: without an exponent from
+/// 10^-6 to below 10^21, with one elsewhere ("1e+21"). "nan", "inf" and "-inf"
+/// for what is not finite.
 [[nodiscard]] QZ_EXPORT String shortestString(double value);
 
 /// `value` with exactly `decimals` digits after the point, rounded to nearest
