@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "QZCore/foundation/dictionary.h"
-#include "foundation/hash.h"
 
 namespace QZCore {
 namespace {
@@ -115,6 +114,7 @@ Object::~Object() = default;
 bool Object::isEqualTo(const Object& other) const { return this == &other; }
 std::size_t Object::hash() const { return reinterpret_cast<std::uintptr_t>(this); }
 String Object::description() const { return u"<object>"; }
+std::shared_ptr<const Object> Object::mutableCopy() const { return nullptr; }
 
 Value::Value(StringView value) : storage_(std::make_shared<const String>(value)) {}
 Value::Value(String value) : storage_(std::make_shared<const String>(std::move(value))) {}
@@ -314,35 +314,6 @@ bool Value::isShared() const {
         }
     };
     return std::visit(countOf, storage_) > 1;
-}
-
-std::size_t Value::hash() const {
-    switch (kind()) {
-        case ValueKind::Absent:
-            return 0;
-        case ValueKind::Boolean:
-        case ValueKind::Integer:
-        case ValueKind::Unsigned:
-        case ValueKind::Real:
-            return hashCombine(1, std::hash<double>{}(doubleValue()));
-        case ValueKind::Date:
-            return hashCombine(2, std::hash<double>{}(date()->secondsSince1970));
-        case ValueKind::Text:
-            return hashText(*string());
-        case ValueKind::Bytes:
-            return hashCombine(3, std::hash<std::string_view>{}(textOf(*data())));
-        case ValueKind::URL:
-            return hashCombine(4, hashText(url()->absoluteString));
-        case ValueKind::List:
-            return hashCombine(5, array()->size());
-        case ValueKind::Set:
-            return hashCombine(6, set()->count());
-        case ValueKind::Dictionary:
-            return hashCombine(7, dictionary()->count());
-        case ValueKind::Object:
-            return hashCombine(8, object()->hash());
-    }
-    return 0;
 }
 
 }  // namespace QZCore

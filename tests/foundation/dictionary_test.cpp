@@ -97,6 +97,15 @@ TEST_CASE("a hundred thousand entries come and go") {
     CHECK(keysOf(entries) == std::vector<String>{u"a"});
 }
 
+TEST_CASE("a hundred thousand containers are found as fast as texts") {
+    constexpr int kMembers = 100'000;
+    Set members;
+    for (int i = 0; i < kMembers; ++i) members.add(Dictionary{{u"a", Array{1, i}}, {u"b", 2}});
+    CHECK(members.count() == kMembers);
+    CHECK(members.contains(Dictionary{{u"b", 2}, {u"a", Array{1, 99'999}}}));
+    CHECK_FALSE(members.contains(Dictionary{{u"b", 2}, {u"a", Array{2, 1}}}));
+}
+
 TEST_CASE("a set holds equal values once, in the order of their coming") {
     Set values{3, u"a", 3.0};
     values.add(Value());

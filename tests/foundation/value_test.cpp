@@ -75,6 +75,63 @@ TEST_CASE("equal things are not always the same") {
     CHECK_FALSE(Value(true).isIdentical(1));
 }
 
+TEST_CASE("a copy is equal; a mutable one is a thing of its own") {
+    testing::RandomValues random(3);
+    for (int i = 0; i < 500; ++i) {
+        const Value value = random.tree(2);
+        const Value copy = value.mutableCopy();
+        REQUIRE(value.copy().isIdentical(value));
+        REQUIRE(copy == value);
+        REQUIRE(copy.hash() == value.hash());
+        const bool isScalar = value.isNumber() || value.date() != nullptr;
+        REQUIRE(copy.isIdentical(value) == isScalar);
+        REQUIRE((copy.mutableArray() != nullptr) == (value.array() != nullptr));
+        REQUIRE((copy.mutableDictionary() != nullptr) == (value.dictionary() != nullptr));
+        REQUIRE(copy.copy() == value);
+        REQUIRE(copy.copy().mutableArray() == nullptr);
+        REQUIRE(copy.copy().mutableDictionary() == nullptr);
+    }
+    const Value set = Set{1};
+    const Value box = Value::boxed(Date{1});
+    for (const Value& value : {set, box}) {
+        CHECK(value.mutableCopy() == value);
+        CHECK_FALSE(value.mutableCopy().isIdentical(value));
+    }
+    CHECK(Value(std::make_shared<const Object>()).mutableCopy().isAbsent());
+    CHECK(Value().mutableCopy().isAbsent());
+}
+
+TEST_CASE("the very same values have one identity hash") {
+    const Value text = u"text";
+    const Value list = Value::mutableArray({1});
+    for (const Value& value : {text, list, Value(1), Value(Date{1}), Value()}) {
+        const Value same = value;
+        CHECK(same.identityHash() == value.identityHash());
+    }
+    CHECK(Value(0.0).identityHash() == Value(-0.0).identityHash());
+    CHECK(Value(u"text").identityHash() != text.identityHash());
+    CHECK(Value(1).identityHash() != Value(1.0).identityHash());
+}
+
+TEST_CASE("containers of one size have many hashes, in any order and at any width") {
+    Set hashes;
+    for (int i = 0; i < 1000; ++i) {
+        Array longList(1000, 0);
+        longList.back() = i;
+        hashes.add(Value(longList).hash());
+        hashes.add(Value(Dictionary{{u"kind", u"row"}, {u"cells", Array{Array{1, i}, 2}}}).hash());
+    }
+    CHECK(hashes.count() > 1980);
+    Dictionary forwards;
+    Dictionary backwards;
+    for (int count = 1; count < 100; ++count) {
+        forwards.setObject(Set{1, count}, integerString(count));
+        backwards = {};
+        for (int i = count; i > 0; --i) backwards.setObject(Set{i, 1}, integerString(i));
+        REQUIRE(Value(forwards).hash() == Value(backwards).hash());
+    }
+}
+
 TEST_CASE("a mutable container changes through every value that refers to it") {
     const Value list = Value::mutableArray({1});
     const Value same = list;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 
 #include "QZCore/export.h"
 #include "QZCore/foundation/text.h"
@@ -23,6 +24,10 @@ public:
 
     /// A text for people and logs.
     [[nodiscard]] virtual String description() const;
+
+    /// A copy of its own; an empty pointer when the type has no copies, as by
+    /// default.
+    [[nodiscard]] virtual std::shared_ptr<const Object> mutableCopy() const;
 
     Object(const Object&) = default;
     Object& operator=(const Object&) = default;
@@ -56,6 +61,11 @@ public:
         } else {
             return Object::description();
         }
+    }
+
+    /// Another box with an equal value.
+    [[nodiscard]] std::shared_ptr<const Object> mutableCopy() const override {
+        return std::make_shared<Boxed>(value);
     }
 
 private:

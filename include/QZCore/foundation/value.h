@@ -174,6 +174,17 @@ public:
     /// "1" or "0"), a URL as its text; else empty.
     [[nodiscard]] String stringValue() const;
 
+    // ---- Copying ----
+
+    /// The value in a form that nobody can change: an immutable container with
+    /// the elements of a mutable one; everything else as it is.
+    [[nodiscard]] Value copy() const;
+
+    /// A new thing that is equal: arrays and dictionaries as mutable ones with
+    /// the same elements, objects by `Object::mutableCopy`, scalars as they are.
+    /// Absent when the value is, and for an object without copies.
+    [[nodiscard]] Value mutableCopy() const;
+
     // ---- Comparing ----
 
     /// Whether both are the very same: the same scalar of the same kind, or a
@@ -184,9 +195,13 @@ public:
     /// scalars.
     [[nodiscard]] bool isShared() const;
 
-    /// A number that is the same for equal values. A container's depends on
-    /// its size alone, so that it costs the same at any depth.
+    /// A number that is the same for equal values. A container's depends on its
+    /// size and on a bounded part of what it holds, so that its cost is bounded,
+    /// too.
     [[nodiscard]] std::size_t hash() const;
+
+    /// A number that is the same for values that are the very same.
+    [[nodiscard]] std::size_t identityHash() const;
 
     /// A text for people and logs: strings as they are, containers with their
     /// elements in brackets and braces, "(null)" when absent.
