@@ -5,11 +5,16 @@ set(QZCORE_PUBLIC_HEADERS
   color/named_colors.h
   color/stored_colors.h
   codecs.h
+  codecs/arrays.h
   codecs/character_set.h
   codecs/comparing.h
+  codecs/deep_copies.h
+  codecs/dictionaries.h
   codecs/file_names.h
   codecs/parsing.h
+  codecs/property_list_data.h
   codecs/transforming.h
+  codecs/typed_access.h
   codecs/uuid.h
   export.h
   foundation.h
@@ -23,6 +28,9 @@ set(QZCORE_PUBLIC_HEADERS
   foundation/range.h
   foundation/text.h
   foundation/value.h
+  geometry.h
+  geometry/plane.h
+  geometry/stored_sizes.h
   markdown.h
   markdown/detection.h
   markdown/emoji.h
