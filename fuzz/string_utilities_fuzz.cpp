@@ -1,8 +1,10 @@
 // The string utilities on arbitrary UTF-16, unpaired surrogates and all.
+#include <cmath>
 #include <cstring>
 
 #include "QZCore/codecs.h"
 #include "QZCore/foundation/log.h"
+#include "QZCore/geometry/stored_sizes.h"
 #include "require.h"
 
 using namespace QZCore;
@@ -34,6 +36,37 @@ void takeApart(StringView text) {
     require(units <= text.size());
     require(stringFromTemplate(text, {}) == text);
     require(stringByRemovingHTML(text).size() <= text.size());
+}
+
+/// The entries joined to a text, each key and its value by `between`.
+String joined(const Dictionary& dictionary, StringView between, StringView behind) {
+    String text;
+    for (const auto& [key, value] : dictionary) {
+        if (!text.empty()) text += behind;
+        text.append(*key.string()).append(between).append(*value.string());
+    }
+    return text;
+}
+
+void readPairs(StringView text) {
+    const Dictionary query = dictionaryWithQueryString(text);
+    require(dictionaryWithQueryString(joined(query, u"=", u"&")) == query);
+    const Dictionary pairs = dictionaryWithKeyObjectString(text, u":", u";");
+    require(dictionaryWithKeyObjectString(joined(pairs, u" : ", u";\t"), u":", u";") == pairs);
+    const Dictionary turns = dictionaryWithKeyObjectString(text, u"|");
+    require(dictionaryWithKeyObjectString(u"|" + joined(turns, u"|", u"|"), u"|") == turns);
+}
+
+void readNumbers(StringView text) {
+    Dictionary dictionary{{u"text", text}};
+    (void)boolForKey(dictionary, u"text");
+    (void)unsignedIntegerForKey(dictionary, u"text");
+    setDouble(dictionary, doubleForKey(dictionary, u"text"), u"number");
+    require(doubleForKey(dictionary, u"number") == doubleForKey(dictionary, u"text"));
+    const Size size = sizeForKey(dictionary, u"text");
+    if (std::isinf(size.width) || std::isinf(size.height)) return;
+    setSize(dictionary, size, u"size");
+    require(sizeForKey(dictionary, u"size") == size);
 }
 
 void transform(StringView text) {
@@ -86,6 +119,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     (void)silenced;
     const String text = unitsOf(data, size);
     takeApart(text);
+    readPairs(text);
+    readNumbers(text);
     transform(text);
     transport(text);
     const StringView whole = text;
