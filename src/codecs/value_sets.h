@@ -3,26 +3,21 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <unordered_set>
 
 #include "QZCore/foundation/value.h"
 
 namespace QZCore {
 
-/// How a hashed set tells values apart that are not the very same.
+/// Identity, as the hash and as the comparison of a hashed set.
 struct ByIdentity {
-    /// The hash.
     std::size_t operator()(const Value& value) const { return value.identityHash(); }
-    /// Whether both are the very same.
     bool operator()(const Value& a, const Value& b) const { return a.isIdentical(b); }
 };
 
-/// How a hashed set tells values apart that are not equal.
+/// Equality, as the hash and as the comparison of a hashed set.
 struct ByEquality {
-    /// The hash.
     std::size_t operator()(const Value& value) const { return value.hash(); }
-    /// Whether both are equal.
     bool operator()(const Value& a, const Value& b) const { return a == b; }
 };
 
