@@ -37,7 +37,14 @@ set(QZCORE_PUBLIC_HEADERS
   markdown/rendering.h
   markdown/style_sheet.h
   markdown/syntax.h
+  model.h
+  model/objects.h
+  model/pair.h
+  model/stopwatch.h
+  model/undo_action.h
+  model/undo_manager.h
   platform.h
+  platform/clock.h
   platform/fonts.h
   platform/images.h
   platform/regex.h

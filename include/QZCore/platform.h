@@ -1,8 +1,9 @@
 // What the library needs of the platform, as small interfaces: regular
-// expressions, fonts, URL loading, images. Each has one real back end, chosen
-// by default, and can be replaced by the application.
+// expressions, fonts, URL loading, images, the monotonic clock. Each has one
+// real back end, chosen by default, and can be replaced by the application.
 #pragma once
 
+#include "QZCore/platform/clock.h"
 #include "QZCore/platform/fonts.h"
 #include "QZCore/platform/images.h"
 #include "QZCore/platform/regex.h"

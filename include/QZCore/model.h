@@ -1,0 +1,8 @@
+// The object model: trees, pairs, undo, and measuring time.
+#pragma once
+
+#include "QZCore/model/objects.h"
+#include "QZCore/model/pair.h"
+#include "QZCore/model/stopwatch.h"
+#include "QZCore/model/undo_action.h"
+#include "QZCore/model/undo_manager.h"

@@ -1,0 +1,88 @@
+#include "QZCore/model/stopwatch.h"
+
+#include "support/hand_clock.h"
+#include "support/printing.h"
+
+namespace QZCore {
+namespace {
+
+using testing::HandClock;
+
+HandClock* blockClock = nullptr;
+void threeSeconds() { blockClock->show(10'000'000'000); }
+
+}  // namespace
+
+TEST_CASE("a stopwatch shows the time from start to stop") {
+    HandClock clock;
+    clock.show(5'000'000'000);
+    QZStopwatch watch = QZStopwatch::stopwatch();
+    CHECK(watch.startTime() == 0);
+    CHECK(watch.stopTime() == 0);
+    CHECK(watch.seconds() == 5.0);  // never started: the clock itself
+
+    watch.start();
+    CHECK(watch.startTime() == 5'000'000'000);
+    CHECK(watch.seconds() == 0.0);
+    clock.show(5'250'000'000);
+    CHECK(watch.seconds() == 0.25);
+    watch.stop();
+    clock.show(9'000'000'000);
+    CHECK(watch.stopTime() == 5'250'000'000);
+    CHECK(watch.seconds() == 0.25);
+    watch.stop();
+    CHECK(watch.seconds() == 4.0);
+
+    watch.start();
+    CHECK(watch.stopTime() == 0);
+    CHECK(watch.seconds() == 0.0);
+}
+
+TEST_CASE("seconds is the difference of whatever readings are set") {
+    struct Row {
+        const char* why;
+        std::uint64_t start, stop;
+        double seconds;
+    };
+    const Row rows[] = {
+        {"half a second", 1'000'000'000, 1'500'000'000, 0.5},
+        {"stop 0 is now", 6'000'000'000, 0, 1.0},
+        {"end before the start", 2'000'000'000, 1'000'000'000, -1.0},
+        {"start in the future", 8'000'000'000, 0, -1.0},
+        {"readings beyond 2^53 keep their nanoseconds", 1ULL << 60, (1ULL << 60) + 1, 1e-9},
+    };
+    HandClock clock;
+    clock.show(7'000'000'000);
+    for (const Row& row : rows) {
+        CAPTURE(row.why);
+        QZStopwatch watch;
+        watch.setStartTime(row.start);
+        watch.setStopTime(row.stop);
+        CHECK(watch.seconds() == row.seconds);
+    }
+}
+
+TEST_CASE("a timestamp is in nanoseconds, the time of a block in seconds") {
+    HandClock clock;
+    clock.show(7'000'000'000);
+    CHECK(QZStopwatch::timestamp() == 7e9);
+    CHECK(QZStopwatchBlock([&clock] { clock.show(8'500'000'000); }) == 1.5);
+
+    clock.show(7'000'000'000);
+    blockClock = &clock;
+    CHECK(QZStopwatchBlock(&threeSeconds) == 3.0);
+    CHECK(QZStopwatchBlock(static_cast<void (*)()>(nullptr)) == 0.0);
+}
+
+TEST_CASE("the system's clock goes on, and not back") {
+    const auto clock = sharedMonotonicClock();
+    const std::uint64_t first = clock->nanoseconds();
+    std::uint64_t last = first;
+    while (last == first) {
+        const std::uint64_t next = clock->nanoseconds();
+        REQUIRE(next >= last);
+        last = next;
+    }
+}
+
+}  // namespace QZCore
