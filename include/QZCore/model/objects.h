@@ -22,11 +22,13 @@ class QZ_EXPORT CopyableObject : public Object {
 public:
     /// A copy of the object, of the object's own class.
     [[nodiscard]] virtual std::shared_ptr<const Object> copiedObject() const = 0;
+
+    /// The same copy, which can be changed.
+    [[nodiscard]] std::shared_ptr<const Object> mutableCopy() const final { return copiedObject(); }
 };
 
-/// A copy of `value` by its own copy operation: an immutable array or
-/// dictionary with the elements of a mutable one, the copy of an object that
-/// has copies. Everything else cannot change, and is its own copy.
+/// A copy of `value` by its own copy operation: the copy of an object that has
+/// copies, else `Value::copy`.
 [[nodiscard]] QZ_EXPORT Value copyOf(const Value& value);
 
 }  // namespace QZCore

@@ -1,0 +1,229 @@
+#include "model/archive_writer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "QZCore/foundation/dictionary.h"
+#include "foundation/property_list_scalars.h"
+
+namespace QZCore {
+namespace {
+
+using namespace archive_format;
+
+/// Stands before each key in the names of a form. No property list can hold it.
+constexpr char16_t kNameSeparator = 0xFFFF;
+
+/// The shared thing that a value refers to; null when it holds a scalar.
+const void* sharedThing(const Value& value) {
+    switch (value.kind()) {
+        case ValueKind::Text:
+            return value.string();
+        case ValueKind::Bytes:
+            return value.data();
+        case ValueKind::URL:
+            return value.url();
+        case ValueKind::List:
+            return value.array();
+        case ValueKind::Set:
+            return value.set();
+        case ValueKind::Dictionary:
+            return value.dictionary();
+        case ValueKind::Object:
+            return value.object().get();
+        default:
+            return nullptr;
+    }
+}
+
+/// The form of a plain value; nothing when it stands for itself.
+std::optional<PlainForm> plainFormOf(const Value& value) {
+    switch (value.kind()) {
+        case ValueKind::List:
+            return value.mutableArray() == nullptr ? PlainForm::List : PlainForm::MutableList;
+        case ValueKind::Dictionary:
+            return value.mutableDictionary() == nullptr ? PlainForm::Dictionary
+                                                        : PlainForm::MutableDictionary;
+        case ValueKind::Set:
+            return PlainForm::Set;
+        case ValueKind::Date:
+            return PlainForm::Date;
+        case ValueKind::URL:
+            return PlainForm::URL;
+        case ValueKind::Text:
+            if (isPropertyListText(*value.string())) return std::nullopt;
+            return PlainForm::Text;
+        default:
+            return std::nullopt;
+    }
+}
+
+Data unitsOf(StringView text) {
+    Data bytes;
+    for (const char16_t unit : text) {
+        bytes.push_back(static_cast<std::uint8_t>(unit & 0xFF));
+        bytes.push_back(static_cast<std::uint8_t>(unit >> 8));
+    }
+    return bytes;
+}
+
+Array namesOfForm(StringView names) {
+    Array form;
+    while (true) {
+        const std::size_t end = names.find(kNameSeparator);
+        form.push_back(names.substr(0, end));
+        if (end == StringView::npos) return form;
+        names.remove_prefix(end + 1);
+    }
+}
+
+}  // namespace
+
+PropertyListData ArchiveWriter::write(const Value& root) {
+    const Number rootNumber = numberOf(root);
+    Array objects;
+    for (std::size_t i = 0; i < values_.size() && error_.empty(); ++i) {
+        const Value value = values_[i];
+        objects.push_back(storedForm(value));
+        graph_.addObject(value.kind() == ValueKind::Object);
+    }
+    if (error_.empty()) error_ = graph_.makingOrder(rootNumber).fault;
+    if (!error_.empty()) return {std::nullopt, error_};
+
+    Dictionary archive;
+    archive.setObject(kVersion, kVersionKey);
+    archive.setObject(coding_ == ArchiveCoding::Keyed ? kKeyed : kSequential, kCodingKey);
+    archive.setObject(std::move(forms_), kFormsKey);
+    archive.setObject(std::move(objects), kObjectsKey);
+    archive.setObject(rootNumber, kRootKey);
+    return writePropertyList(std::move(archive));
+}
+
+// ---- References ----
+
+/// Something that only one value refers to cannot be met again, and need not be
+/// found again.
+ArchiveWriter::Number ArchiveWriter::numberOf(const Value& value) {
+    if (value.isAbsent()) return 0;
+    const auto next = static_cast<Number>(values_.size() + 1);
+    if (value.isShared()) {
+        const auto [at, isNew] = numbers_.try_emplace(sharedThing(value), next);
+        if (!isNew) return at->second;
+    }
+    if (next == UINT32_MAX) {
+        fail(u"too many objects");
+        return 0;
+    }
+    values_.push_back(value);
+    return next;
+}
+
+void ArchiveWriter::addReference(const Value& value) {
+    const Number number = numberOf(value);
+    graph_.addReference(number);
+    contents_.push_back(number);
+}
+
+// ---- Objects ----
+
+Value ArchiveWriter::storedForm(const Value& value) {
+    contents_.assign(1, Value());  // the place of the form
+    if (value.kind() == ValueKind::Object) {
+        addClassContents(*value.object());
+    } else {
+        if (!isAllowed(value.kind(), classes_)) fail(u"a value of a kind that is not allowed");
+        const auto form = plainFormOf(value);
+        if (!form) return value;
+        addPlainContents(value, *form);
+    }
+    contents_.front() = formNumber();
+    return std::move(contents_);
+}
+
+void ArchiveWriter::addPlainContents(const Value& value, PlainForm form) {
+    formNames_ = rowOf(form).name;
+    switch (form) {
+        case PlainForm::List:
+        case PlainForm::MutableList:
+            for (const Value& element : *value.array()) addReference(element);
+            return;
+        case PlainForm::Set:
+            for (const Value& member : value.set()->allObjects()) addReference(member);
+            return;
+        case PlainForm::Dictionary:
+        case PlainForm::MutableDictionary:
+            for (const auto& [key, object] : *value.dictionary()) {
+                addReference(key);
+                addReference(object);
+            }
+            return;
+        case PlainForm::Date:
+            contents_.push_back(value.date()->secondsSince1970);
+            return;
+        case PlainForm::URL:
+            addReference(value.url()->absoluteString);
+            return;
+        case PlainForm::Text:
+            contents_.push_back(unitsOf(*value.string()));
+            return;
+    }
+}
+
+void ArchiveWriter::addClassContents(const Object& object) {
+    const auto isOfType = [&object](const ArchivedClass& row) {
+        return *row.type == typeid(object);
+    };
+    const auto row = std::ranges::find_if(classes_.objects, isOfType);
+    if (row == classes_.objects.end()) return fail(u"an object of a class that is not allowed");
+    formNames_ = row->name;
+    ArchiveEncoder encoder(*this);
+    row->encode(object, encoder);
+}
+
+void ArchiveWriter::addContent(const Value& object) { addReference(object); }
+
+void ArchiveWriter::addContent(const Value& object, StringView forKey) {
+    if (forKey.find(kNameSeparator) != StringView::npos) fail(u"a key that cannot be stored");
+    formNames_ += kNameSeparator;
+    formNames_ += forKey;
+    addReference(object);
+}
+
+/// The number of the form that the object whose turn it is has.
+std::int64_t ArchiveWriter::formNumber() {
+    const auto next = static_cast<std::int64_t>(forms_.size());
+    const auto [at, isNew] = formNumbers_.try_emplace(formNames_, next);
+    if (isNew) forms_.push_back(namesOfForm(formNames_));
+    return at->second;
+}
+
+// ---- Faults ----
+
+void ArchiveWriter::failCoding() {
+    fail(u"contents with keys in a sequential archive, or without");
+}
+
+void ArchiveWriter::fail(StringView reason) {
+    if (error_.empty()) error_ = reason;
+}
+
+// ---- For callers ----
+
+bool ArchiveEncoder::allowsKeyedCoding() const { return writer_.coding() == ArchiveCoding::Keyed; }
+
+void ArchiveEncoder::encodeObject(const Value& object, StringView forKey) {
+    if (!allowsKeyedCoding()) return writer_.failCoding();
+    writer_.addContent(object, forKey);
+}
+
+void ArchiveEncoder::encodeObject(const Value& object) {
+    if (allowsKeyedCoding()) return writer_.failCoding();
+    writer_.addContent(object);
+}
+
+PropertyListData archivedData(const Value& root, const ArchiveClasses& classes,
+                              ArchiveCoding coding) {
+    return ArchiveWriter(classes, coding).write(root);
+}
+
+}  // namespace QZCore
