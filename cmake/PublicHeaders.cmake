@@ -38,9 +38,12 @@ set(QZCORE_PUBLIC_HEADERS
   markdown/style_sheet.h
   markdown/syntax.h
   model.h
+  model/archive.h
   model/objects.h
   model/pair.h
+  model/property_selector.h
   model/stopwatch.h
+  model/tree_node.h
   model/undo_action.h
   model/undo_manager.h
   platform.h
