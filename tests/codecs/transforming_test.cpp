@@ -22,7 +22,7 @@ TEST_CASE("a substring outside of the text is empty and logged once") {
 
 TEST_CASE("a set of characters holds its ranges and nothing beside them") {
     const auto set = CharacterSet::charactersInRanges(
-        {{u'x', u'z'}, {u'a', u'c'}, {u'b', u'e'}, {0x1F600, 0x1F64F}, {5, 2}});
+        {{u'x', u'z'}, {u'a', u'c'}, {u'b', u'e'}, {0x1F600, 0x1F64F}, {0x1F610, 0x1F611}, {5, 2}});
     for (char32_t point = 0; point < 0x20000; ++point) {
         const bool expected = (point >= u'a' && point <= u'e') ||
                               (point >= u'x' && point <= u'z') ||
@@ -96,7 +96,8 @@ TEST_CASE("reversing keeps composed characters together") {
             {"two flags", u"\U0001F1E9\U0001F1EA\U0001F1EB\U0001F1F7",
              u"\U0001F1EB\U0001F1F7\U0001F1E9\U0001F1EA"},
             {"conjoining letters", u"\u1100\u1161\u11A8\u1100", u"\u1100\u1100\u1161\u11A8"},
-            {"a joiner between letters", u"a\u200Db", u"ba\u200D"},
+            {"a joiner between letters", u"\U0001F600\u200Dba\u200D\U0001F600",
+             u"\U0001F600a\u200Db\U0001F600\u200D"},
         });
 }
 

@@ -55,6 +55,7 @@ TEST_CASE("what is no UUID has no other form") {
         CHECK_FALSE(decodeURLSafeBase64UUID(String(start) + String(end)));
     }
     CHECK_FALSE(decodeURLSafeBase64UUID(u"a6e4EJ2tEdGAtADAT9Qw=="));
+    CHECK_FALSE(decodeURLSafeBase64UUID(u"a6e4EJ2tEdGAtADAT9    "));
 }
 
 }  // namespace QZCore

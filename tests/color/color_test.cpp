@@ -78,13 +78,13 @@ TEST_CASE("hue, saturation and lightness give components") {
     };
     const Row rows[] = {
         {0, 1, 0.5, u"red"},
-        // One of each sixth of the circle.
-        {1 / 12.0, 0.6, 0.2, u"#523314"},
-        {1 / 4.0, 0.6, 0.75, u"#bfe699"},
-        {5 / 12.0, 1, 0.4, u"#00cc66"},
-        {7 / 12.0, 0.3, 0.6, u"#7a99b8"},
-        {3 / 4.0, 0.9, 0.8, u"#cc9efa"},
-        {11 / 12.0, 0.8, 0.3, u"#8a0f4d"},
+        // One of each sixth of the circle, at a quarter of it.
+        {1 / 24.0, 0.6, 0.2, u"#522414"},
+        {5 / 24.0, 0.6, 0.75, u"#d2e699"},
+        {9 / 24.0, 1, 0.4, u"#00cc33"},
+        {13 / 24.0, 0.3, 0.6, u"#7aa8b8"},
+        {17 / 24.0, 0.9, 0.8, u"#b59efa"},
+        {21 / 24.0, 0.8, 0.3, u"#8a0f6b"},
         // The ends of lightness and saturation.
         {0.3, 0, 0.2, u"#333333"},
         {0.3, 1, 1, u"#ffffff"},
@@ -109,10 +109,21 @@ TEST_CASE("the named tables are each other's inverse and know exact spellings on
     CHECK(Color::sharedNamedColors().count() == 26);
     CHECK(Color::sharedNamedColorsReversed().count() == 26);
     for (const auto& [name, color] : Color::sharedNamedColors()) {
-        CHECK(Color::sharedNamedColors().find(name) == color);
         CHECK(Color::sharedNamedColorsReversed().find(color) == name);
         if (name != u"clear" && name != u"white" && name != u"black")
             CHECK(color.stringForColor() == name);
+    }
+    const NamedColor rows[] = {
+        {u"darkGray", white(1 / 3.0, 1)},   {u"lightGray", white(2 / 3.0, 1)},
+        {u"gray", white(0.5, 1)},           {u"white", white(1, 1)},
+        {u"red", rgba(1, 0, 0, 1)},         {u"green", rgba(0, 1, 0, 1)},
+        {u"blue", rgba(0, 0, 1, 1)},        {u"cyan", rgba(0, 1, 1, 1)},
+        {u"yellow", rgba(1, 1, 0, 1)},      {u"magenta", rgba(1, 0, 1, 1)},
+        {u"orange", rgba(1, 0.5, 0, 1)},    {u"purple", rgba(0.5, 0, 0.5, 1)},
+        {u"brown", rgba(0.6, 0.4, 0.2, 1)}, {u"clear", rgba(0, 0, 0, 0)},
+    };
+    for (const NamedColor& row : rows) {
+        CHECK(Color::sharedNamedColors().find(row.name) == row.color);
     }
     for (const StringView name : {u"", u"Red", u"darkgray", u"re", u"redd", u"zebra"}) {
         CHECK(Color::sharedNamedColors().find(name) == std::nullopt);

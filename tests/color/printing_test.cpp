@@ -34,7 +34,7 @@ TEST_CASE("a colour prints in a fixed form, as a name, or by its components") {
         {"half black", rgba(0, 0, 0, 0.5), u"rgba(00,00,00,0.500000)", {}},
         {"half grey", halfGrey, u"rgb(0,0,0,0.500000)", u"rgba(00,00,00,0.500000)"},
         {"another model", Color::colorWithDeviceRed(1, 0, 0, 1), u"#ff0000", {}},
-        {"one step less", rgba(0.498, 0.502, 0.5, 1), u"#7f8080", {}},
+        {"to the nearest", rgba(0.498, 0.502, 126.5 / 255, 1), u"#7f807e", {}},
         {"ties", rgba(0.5, 0.5, 0.5, 0.25), u"rgb(128,128,128,0.250000)",
          u"rgba(80,80,80,0.250000)"},
         {"out of range", rgba(300 / 255.0, -1 / 255.0, 0, 1), u"#12cffffffff00", {}},

@@ -56,31 +56,33 @@ TEST_CASE("a paragraph takes the style of its first character") {
 
 TEST_CASE("closing a batch fixes the paragraphs that were changed and no others") {
     const testing::MadeUpFonts fonts;
-    RichText text(u"aaaa\nbbbb\ncccc");
-    text.addAttributes(paragraph(1), {2, 1});
-    text.addAttributes(paragraph(1), {12, 1});
+    RichText text(u"aa\nbb\ncc\ndd\nee");
+    text.addAttributes(paragraph(1), {1, 1});
+    text.addAttributes(paragraph(1), {13, 1});
     text.beginEditing();
     {
         const RichTextEditing editing(text);
-        text.addAttributes(paragraph(2), {5, 2});
+        for (const std::size_t at : {3, 9, 6}) text.addAttributes(paragraph(2), {at, 1});
     }
-    CHECK(indents(text) == "--1--22-----1-");
+    CHECK(indents(text) == "-1-2--2--2---1");
     text.endEditing();
-    CHECK(indents(text) == "--1--22222--1-");
+    CHECK(indents(text) == "-1-222222222-1");
 }
 
 TEST_CASE("fonts and attachments stay where their characters are") {
     const testing::MadeUpFonts fonts;
     const Font font = FontManager::shared().userFont(14);
-    // A thumb with a skin tone, between letters.
-    RichText text(u"ab\U0001F44D\U0001F3FDcd\u0301", {{NSFontAttributeName, Value::boxed(font)}});
+    // A thumb with a skin tone and a variation selector, then a tone alone.
+    RichText text(u"ab\U0001F44D\U0001F3FD\uFE0Fc\u0301d\U0001F3FD",
+                  {{NSFontAttributeName, Value::boxed(font)}});
     text.fixAttributesInRange({0, 1});
-    CHECK(text.numberOfRuns() == 3);
+    CHECK(text.numberOfRuns() == 4);
     const TextRun emoji = text.runAtIndex(2);
-    CHECK(emoji.range == Range{2, 4});
+    CHECK(emoji.range == Range{2, 5});
     CHECK(emoji.attributes.font()->familyName == u"Symbols");
     CHECK(emoji.attributes.font()->pointSize == 14);
-    CHECK(*text.attributesAtIndex(7).font() == font);
+    CHECK(*text.attributesAtIndex(8).font() == font);
+    CHECK(text.attributesAtIndex(10).font()->familyName == u"Symbols");
 
     const TextAttributes plain{{u"mark", 1}};
     const TextAttributes attached =

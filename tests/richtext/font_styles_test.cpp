@@ -94,13 +94,15 @@ TEST_CASE("a style gives every attribute but a clear background") {
 
 TEST_CASE("attributes are stored under the keys of what they hold, and read back") {
     CHECK(fonts().styleForAttributes({}) == FontAttributes());
-    const TextAttributes clear{
-        {NSBackgroundColorAttributeName, Value::boxed(Color::clearColor())},
-        {NSForegroundColorAttributeName, Value::boxed(Color::textColor())},
-        {NSParagraphStyleAttributeName,
-         Value::boxed(ParagraphStyle{.alignment = TextAlignment::Right, .maximumLineHeight = 20})}};
-    CHECK(fonts().styleForAttributes(clear) ==
-          FontAttributes{{u"textColor", u"#000000"}, {u"horizontalAlignment", 1}});
+    const auto stored = [](const ParagraphStyle& paragraph) {
+        return fonts().styleForAttributes(
+            {{NSBackgroundColorAttributeName, Value::boxed(Color::clearColor())},
+             {NSForegroundColorAttributeName, Value::boxed(Color::textColor())},
+             {NSParagraphStyleAttributeName, Value::boxed(paragraph)}});
+    };
+    const FontAttributes black{{u"textColor", u"#000000"}, {u"horizontalAlignment", 1}};
+    CHECK(stored({.alignment = TextAlignment::Right}) == black);
+    CHECK(stored({.alignment = TextAlignment::Right, .minimumLineHeight = 20}) == black);
     const FontAttributes style{{u"faceName", u"Mono-Bold"},
                                {u"familyName", u"Mono"},
                                {u"fontSize", 9.5},
@@ -128,7 +130,7 @@ TEST_CASE("a font can have a trait when a face has one of its plain names") {
         {u"Bold", 2, true},      {u"Black", 2, true},   {u"Demibold", 2, true},
         {u"Semibold", 2, false}, {u"bold", 2, false},   {u"Bold Italic", 2, false},
         {u"Italic", 1, true},    {u"Oblique", 1, true}, {u"Bold Italic", 1, false},
-        {u"Bold", 1, false},     {u"Bold", 3, false},   {u"Bold", 4, false},
+        {u"Bold", 1, false},     {u"Italic", 3, false}, {u"Bold", 4, false},
     };
     for (const Row& row : rows) {
         CAPTURE(row.face);

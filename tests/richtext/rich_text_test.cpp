@@ -4,6 +4,7 @@
 #include <random>
 #include <thread>
 
+#include "richtext/attribute_palette.h"
 #include "support/printing.h"
 #include "support/rich_text_twin.h"
 
@@ -101,6 +102,8 @@ TEST_CASE("a copy keeps what it had, and equality sees text and attributes") {
     RichText moved = std::move(text);
     CHECK(text.empty());
     CHECK(moved.length() == 19999);
+    CHECK(RichText(u"a", mark(1)) != RichText(u"a", mark(2)));
+    CHECK(RichText(u"a", mark(1)) != RichText(u"b", mark(1)));
 }
 
 TEST_CASE("a value's longest range is told within the range asked about") {
@@ -122,7 +125,14 @@ TEST_CASE("equal attribute sets are one, and sets that nobody has are forgotten"
           TextAttributes{{u"a", 1}, {u"b", Array{1, u"x"}}});
     CHECK(TextAttributes{{u"a", 1}, {u"a", 2}} == TextAttributes{{u"a", 2}});
     CHECK(TextAttributes{{u"a", Value()}}.empty());
+    CHECK(TextAttributes{{u"a", Value::boxed(Color::whiteColor())}} !=
+          TextAttributes{{u"a", Value::boxed(Color::colorWithCalibratedWhite(1, 1))}});
     CHECK(TextAttributes{{u"a", NAN}} == TextAttributes{{u"a", -NAN}});
+    AttributePalette palette;
+    CHECK(palette.idOf(mark(1)) == 0);
+    palette.keepOnly({false});
+    const std::uint32_t plain = palette.idOf(mark(0));
+    CHECK(palette.idOf(mark(2)) != plain);
     RichText text(String(5000, u'a'));
     for (int i = 0; i < 20000; ++i)
         text.addAttribute(u"n", i, {static_cast<std::size_t>(i) % 5000, 1});
