@@ -11,19 +11,19 @@
 namespace QZCore {
 
 TEST_CASE("a file name is shown without folders and extension") {
-    testing::checkRows<StringView>(
-        fileNameOnly, {
-                          {"a path", u"/a/b.c/Report.pdf", u"Report"},
-                          {"one extension only", u"archive.tar.gz", u"archive.tar"},
-                          {"an alias loses one more", u"Report.pdf.alias", u"Report"},
-                          {"an alias of an alias", u"Report.alias.alias", u"Report"},
-                          {"another spelling is no alias", u"Report.pdf.Alias", u"Report.pdf"},
-                          {"a name that begins with its dot", u"/a/.profile", u".profile"},
-                          {"a dot at the end", u"what.", u"what."},
-                          {"a slash at the end", u"/a/Folder.bundle//", u"Folder"},
-                          {"the root", u"//", u"/"},
-                          {"nothing", u"", u""},
-                      });
+    const testing::TextRow<StringView> rows[] = {
+        {"a path", u"/a/b.c/Report.pdf", u"Report"},
+        {"one extension only", u"archive.tar.gz", u"archive.tar"},
+        {"an alias loses one more", u"Report.pdf.alias", u"Report"},
+        {"an alias of an alias", u"Report.alias.alias", u"Report"},
+        {"another spelling is no alias", u"Report.pdf.Alias", u"Report.pdf"},
+        {"a name that begins with its dot", u"/a/.profile", u".profile"},
+        {"a dot at the end", u"what.", u"what."},
+        {"a slash at the end", u"/a/Folder.bundle//", u"Folder"},
+        {"the root", u"//", u"/"},
+        {"nothing", u"", u""},
+    };
+    testing::checkRows(rows, fileNameOnly);
     CHECK(caseInsensitiveCompareOfFileNameOnly(u"/a/REPORT.txt", u"report.pdf.alias") == 0);
     CHECK(caseInsensitiveCompareOfFileNameOnly(u"/z/Alpha.txt", u"/a/beta") == -1);
     CHECK(caseInsensitiveCompareOfFileNameOnly(u"beta", u"ALPHA") == 1);
@@ -33,19 +33,19 @@ TEST_CASE("a name is made safe for the file system") {
     const auto safe = [](std::size_t limit) {
         return [=](StringView text) { return fileSafeTruncatedToMaxLength(text, limit, u"none"); };
     };
-    testing::checkRows<StringView>(
-        safe(0), {
-                     {"nothing left", u" /:? ", u"none"},
-                     {"all unsafe characters", StringView(u"\na/\\?%*:\"<>\0b\u2028", 14), u"ab"},
-                     {"safe ones stay", u"a|b. c-d", u"a|b. c-d"},
-                 });
-    testing::checkRows<StringView>(
-        safe(2), {
-                     {"trimmed, cleaned and cut", u"  a/b:c  ", u"ab"},
-                     {"no second trimming", u"a / b", u"a "},
-                     {"a limit within a surrogate pair", u"a\U0001F600", u"a\xD83D"},
-                     {"a limit that is reached", u"ab", u"ab"},
-                 });
+    const testing::TextRow<StringView> rows[] = {
+        {"nothing left", u" /:? ", u"none"},
+        {"all unsafe characters", StringView(u"\na/\\?%*:\"<>\0b\u2028", 14), u"ab"},
+        {"safe ones stay", u"a|b. c-d", u"a|b. c-d"},
+    };
+    testing::checkRows(rows, safe(0));
+    const testing::TextRow<StringView> cut[] = {
+        {"trimmed, cleaned and cut", u"  a/b:c  ", u"ab"},
+        {"no second trimming", u"a / b", u"a "},
+        {"a limit within a surrogate pair", u"a\U0001F600", u"a\xD83D"},
+        {"a limit that is reached", u"ab", u"ab"},
+    };
+    testing::checkRows(cut, safe(2));
     CHECK(fileSafe(u" ?? ").empty());
 }
 

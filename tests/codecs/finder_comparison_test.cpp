@@ -1,7 +1,6 @@
 #include "QZCore/codecs/comparing.h"
 #include "support/preference_setting.h"
 #include "support/printing.h"
-#include "support/random_texts.h"
 
 namespace QZCore {
 
@@ -49,20 +48,11 @@ TEST_CASE("numbers of any length sort by value") {
     }
 }
 
-TEST_CASE("the order of file names is transitive, and takes linear time over marks") {
-    testing::RandomTexts texts(u"aAbé\u0301\u0323 -.0129\u0660\xD800\xDC00\u00AD");
-    for (int i = 0; i < 20'000; ++i) {
-        const String a = texts.next(8);
-        const String b = texts.next(8);
-        const String c = texts.next(8);
-        const int order = finderFileComparison(a, b, u"de");
-        REQUIRE(order == -finderFileComparison(b, a, u"de"));
-        if (order <= 0 && finderFileComparison(b, c, u"de") <= 0)
-            REQUIRE(finderFileComparison(a, c, u"de") <= 0);
-    }
+TEST_CASE("a name of a great many marks is compared in linear time") {
     String marks = u"a";
     while (marks.size() < 1'000'000) marks += u"\u0301\u0316";
     CHECK(finderFileComparison(marks, marks, u"") == 0);
+    CHECK(finderFileComparison(marks, u"a" + marks, u"") == -1);
 }
 
 }  // namespace QZCore

@@ -59,20 +59,19 @@ TEST_CASE("trimming removes what the anchored pattern finds") {
 }
 
 TEST_CASE("joined words are taken apart and capitalised") {
-    testing::checkRows<StringView>(
-        stringByExpandingJoinedCapitalizedWords,
-        {
-            {"words", u"someJoinedWords", u"Some Joined Words"},
-            {"capitals", u"XMLParser", u"X M L Parser"},
-            {"two words already", u"two words", u"Two Words"},
-            {"a blank before a capital", u"a Word", u"A  Word"},
-            {"what is no letter", u"(first)line\nsecond", u"(First)line\nSecond"},
-            {"letters beyond ASCII", u"élanÉtat", u"Élan État"},
-            {"a letter that becomes two", u"ßig", u"Ssig"},
-            {"a title-case letter", u"\u01C6ur", u"\u01C5ur"},
-            {"letters beyond the basic plane", u"\U00010428\U00010400", u"\U00010400 \U00010400"},
-            {"an unpaired surrogate", u"a\xD800\u00C9", u"A\xD800 \u00C9"},
-        });
+    const testing::TextRow<StringView> rows[] = {
+        {"words", u"someJoinedWords", u"Some Joined Words"},
+        {"capitals", u"XMLParser", u"X M L Parser"},
+        {"two words already", u"two words", u"Two Words"},
+        {"a blank before a capital", u"a Word", u"A  Word"},
+        {"what is no letter", u"(first)line\nsecond", u"(First)line\nSecond"},
+        {"letters beyond ASCII", u"élanÉtat", u"Élan État"},
+        {"a letter that becomes two", u"ßig", u"Ssig"},
+        {"a title-case letter", u"\u01C6ur", u"\u01C5ur"},
+        {"letters beyond the basic plane", u"\U00010428\U00010400", u"\U00010400 \U00010400"},
+        {"an unpaired surrogate", u"a\xD800\u00C9", u"A\xD800 \u00C9"},
+    };
+    testing::checkRows(rows, stringByExpandingJoinedCapitalizedWords);
 }
 
 TEST_CASE("ROT13 moves the units from A to z, and those between the alphabets") {
@@ -82,23 +81,22 @@ TEST_CASE("ROT13 moves the units from A to z, and those between the alphabets") 
 }
 
 TEST_CASE("reversing keeps composed characters together") {
-    testing::checkRows<StringView>(
-        reverse,
-        {
-            {"a surrogate pair", u"a\U0001F600b", u"b\U0001F600a"},
-            {"unpaired surrogates", u"\xDC00\xD800", u"\xD800\xDC00"},
-            {"combining marks in order", u"ae\u0301\u0323b", u"be\u0301\u0323a"},
-            {"a control is no base", u"a\n\u0301b", u"b\u0301\na"},
-            {"a spacing mark", u"\u0915\u093Fx", u"x\u0915\u093F"},
-            {"line ends are two characters", u"a\r\nb", u"b\n\ra"},
-            {"a family", u"a\U0001F468\u200D\U0001F469b", u"b\U0001F468\u200D\U0001F469a"},
-            {"a skin tone", u"\U0001F44D\U0001F3FDx", u"x\U0001F44D\U0001F3FD"},
-            {"two flags", u"\U0001F1E9\U0001F1EA\U0001F1EB\U0001F1F7",
-             u"\U0001F1EB\U0001F1F7\U0001F1E9\U0001F1EA"},
-            {"conjoining letters", u"\u1100\u1161\u11A8\u1100", u"\u1100\u1100\u1161\u11A8"},
-            {"a joiner between letters", u"\U0001F600\u200Dba\u200D\U0001F600",
-             u"\U0001F600a\u200Db\U0001F600\u200D"},
-        });
+    const testing::TextRow<StringView> rows[] = {
+        {"a surrogate pair", u"a\U0001F600b", u"b\U0001F600a"},
+        {"unpaired surrogates", u"\xDC00\xD800", u"\xD800\xDC00"},
+        {"combining marks in order", u"ae\u0301\u0323b", u"be\u0301\u0323a"},
+        {"a control is no base", u"a\n\u0301b", u"b\u0301\na"},
+        {"a spacing mark", u"\u0915\u093Fx", u"x\u0915\u093F"},
+        {"line ends are two characters", u"a\r\nb", u"b\n\ra"},
+        {"a family", u"a\U0001F468\u200D\U0001F469b", u"b\U0001F468\u200D\U0001F469a"},
+        {"a skin tone", u"\U0001F44D\U0001F3FDx", u"x\U0001F44D\U0001F3FD"},
+        {"two flags", u"\U0001F1E9\U0001F1EA\U0001F1EB\U0001F1F7",
+         u"\U0001F1EB\U0001F1F7\U0001F1E9\U0001F1EA"},
+        {"conjoining letters", u"\u1100\u1161\u11A8\u1100", u"\u1100\u1100\u1161\u11A8"},
+        {"a joiner between letters", u"\U0001F600\u200Dba\u200D\U0001F600",
+         u"\U0001F600a\u200Db\U0001F600\u200D"},
+    };
+    testing::checkRows(rows, reverse);
 }
 
 }  // namespace QZCore

@@ -9,20 +9,19 @@ TEST_CASE("quoted-printable text is read as written") {
     CHECK(stringToQuotedPrintableFormat(u"A\n") == u"=41=0A");
     CHECK(stringToQuotedPrintableFormat(u"é") == u"=C3=A9");
     CHECK(stringToQuotedPrintableFormat(u"\xD800") == u"=EF=BF=BD");
-    testing::checkRows<std::optional<String>>(
-        stringFromQuotedPrintableFormat,
-        {
-            {"a soft line break within a character", u"=C3=\r\n=A9", u"é"},
-            {"lower-case digits", u"=c3=a9", u"é"},
-            {"text around it", u"a =3D b\r\n", u"a = b\r\n"},
-            {"percent signs are read as well", u"%41", u"A"},
-            {"characters that are not encoded", u"é\xD800=C3=A9", u"é\xD800é"},
-            {"a line break that is left by another", u"==\r\n\r\n", {}},
-            {"one digit", u"a=4", {}},
-            {"a percent sign alone", u"100%", {}},
-            {"bytes that are not UTF-8", u"=FF", {}},
-            {"a character that text interrupts", u"=C3x=A9", {}},
-        });
+    const testing::TextRow<std::optional<String>> rows[] = {
+        {"a soft line break within a character", u"=C3=\r\n=A9", u"é"},
+        {"lower-case digits", u"=c3=a9", u"é"},
+        {"text around it", u"a =3D b\r\n", u"a = b\r\n"},
+        {"percent signs are read as well", u"%41", u"A"},
+        {"characters that are not encoded", u"é\xD800=C3=A9", u"é\xD800é"},
+        {"a line break that is left by another", u"==\r\n\r\n", {}},
+        {"one digit", u"a=4", {}},
+        {"a percent sign alone", u"100%", {}},
+        {"bytes that are not UTF-8", u"=FF", {}},
+        {"a character that text interrupts", u"=C3x=A9", {}},
+    };
+    testing::checkRows(rows, stringFromQuotedPrintableFormat);
 }
 
 TEST_CASE("URLs keep what their parts allow") {

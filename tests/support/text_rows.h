@@ -1,8 +1,6 @@
 // Tables of texts and of what a function gives for them.
 #pragma once
 
-#include <initializer_list>
-
 #include "support/exact_copy.h"
 #include "support/printing.h"
 
@@ -17,8 +15,8 @@ struct TextRow {
 };
 
 /// Checks that `function` gives for each text what the row expects.
-template <class Result, class Function>
-void checkRows(Function function, std::initializer_list<TextRow<Result>> rows) {
+template <class Result, std::size_t count, class Function>
+void checkRows(const TextRow<Result> (&rows)[count], Function function) {
     for (const TextRow<Result>& row : rows) {
         CAPTURE(row.why);
         CHECK(function(ExactCopy(row.text)) == row.expected);
