@@ -62,7 +62,7 @@ TEST_CASE("closing a batch fixes the paragraphs that were changed and no others"
     text.beginEditing();
     {
         const RichTextEditing editing(text);
-        for (const std::size_t at : {3, 9, 6}) text.addAttributes(paragraph(2), {at, 1});
+        for (const std::size_t at : {3U, 9U, 6U}) text.addAttributes(paragraph(2), {at, 1});
     }
     CHECK(indents(text) == "-1-2--2--2---1");
     text.endEditing();
