@@ -1,9 +1,9 @@
-#include <doctest/doctest.h>
-
 #include "platform/cache_control.h"
+
 #include "platform/cached_response.h"
 #include "platform/http_date.h"
 #include "platform/http_freshness.h"
+#include "support/printing.h"
 
 using namespace QZCore;
 using namespace std::string_view_literals;

@@ -11,6 +11,12 @@
 
 namespace doctest {
 
+/// What a row is there for; otherwise its address would be printed.
+template <>
+struct StringMaker<const char*> {
+    static String convert(const char* text) { return text; }
+};
+
 template <>
 struct StringMaker<std::u16string> {
     static String convert(const std::u16string& text) {
