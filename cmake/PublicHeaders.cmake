@@ -34,6 +34,7 @@ set(QZCORE_PUBLIC_HEADERS
   markdown.h
   markdown/detection.h
   markdown/emoji.h
+  markdown/lists.h
   markdown/rendering.h
   markdown/style_sheet.h
   markdown/syntax.h

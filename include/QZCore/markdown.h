@@ -4,6 +4,7 @@
 
 #include "QZCore/markdown/detection.h"
 #include "QZCore/markdown/emoji.h"
+#include "QZCore/markdown/lists.h"
 #include "QZCore/markdown/rendering.h"
 #include "QZCore/markdown/style_sheet.h"
 #include "QZCore/markdown/syntax.h"

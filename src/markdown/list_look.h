@@ -6,17 +6,15 @@
 #include <vector>
 
 #include "QZCore/foundation/preferences.h"
+#include "QZCore/markdown/lists.h"
 #include "QZCore/markdown/style_sheet.h"
 #include "QZCore/richtext/font_manager.h"
 
 namespace QZCore {
 
-inline constexpr StringView kDiscFormat = u"{disc}";
-inline constexpr StringView kDecimalFormat = u"{decimal}";
-
 /// What decides how an item looks beside its text.
 struct ListItem {
-    StringView markerFormat = kDiscFormat;
+    StringView markerFormat = kMarkdownListDisc;
     /// 1 for the items of the list itself, one more for each level below.
     std::uint32_t level = 1;
     /// The place among its siblings, from 1 on.
@@ -24,7 +22,7 @@ struct ListItem {
     /// How many items its parent has, itself among them.
     std::size_t siblings = 1;
 
-    [[nodiscard]] bool isNumbered() const { return markerFormat == kDecimalFormat; }
+    [[nodiscard]] bool isNumbered() const { return markerFormat == kMarkdownListDecimal; }
 };
 
 /// How the items of one list look.

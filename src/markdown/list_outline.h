@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "QZCore/foundation/preferences.h"
+#include "QZCore/markdown/lists.h"
 #include "QZCore/markdown/syntax.h"
 #include "markdown/scanner.h"
 
@@ -28,6 +29,9 @@ struct ListLine {
     SpanMatch::Span text;
 
     [[nodiscard]] bool isItem() const { return level > 0; }
+    [[nodiscard]] StringView markerFormat() const {
+        return isNumbered ? kMarkdownListDecimal : kMarkdownListDisc;
+    }
 };
 
 /// Replaces each line feed of `list` by a blank where a letter follows, so that

@@ -16,8 +16,6 @@ bool indentsFirstLevel(const Preferences& preferences, bool hasTitle) {
            preferences.boolForKey(u"Markdown Inline Lists Only If Titled Indent First Level", true);
 }
 
-StringView formatOf(const ListLine& line) { return line.isNumbered ? kDecimalFormat : kDiscFormat; }
-
 /// Puts the number of items under each line into `numbers`, and last of those
 /// under none.
 void countChildren(const std::vector<ListLine>& lines, std::vector<std::uint32_t>& numbers) {
@@ -100,10 +98,10 @@ void ListRenderer::write(const FlatSlice& markdown, std::span<const FlatRun> run
         const bool isOutermost = line.parent == kNoListLine;
         const std::uint32_t lists = isOutermost ? ListWriter::kOutermost : listsBelow_[line.parent];
         // Only sub-items ask for it.
-        if (children_[i] > 0) listsBelow_[i] = writer.pushed(lists, formatOf(line));
+        if (children_[i] > 0) listsBelow_[i] = writer.pushed(lists, line.markerFormat());
         const std::uint32_t siblings = children_[isOutermost ? lines.size() : line.parent];
-        writer.writeItem({formatOf(line), line.level, line.position, siblings}, lists, text, walk,
-                         out);
+        writer.writeItem({line.markerFormat(), line.level, line.position, siblings}, lists, text,
+                         walk, out);
     }
     if (endsBlank) writer.writePlain(kBlankLine, out);
 }
