@@ -2,16 +2,19 @@
 #include <iterator>
 
 #include "QZCore/codecs/arrays.h"
-#include "codecs/value_sets.h"
+#include "codecs/value_set.h"
 
 namespace QZCore {
 namespace {
 
-/// Removes the elements that `goes` is true of, asked from the end to the start.
+/// Removes the elements that `goes` is true of. All are asked first, from the end
+/// to the start, since the array may be the one that `goes` looks into.
 template <class Predicate>
 void removeFromTheEnd(Array& array, Predicate goes) {
-    const auto kept = std::remove_if(array.rbegin(), array.rend(), goes);
-    array.erase(array.begin(), kept.base());
+    std::vector<bool> isGoing(array.size());
+    for (std::size_t i = array.size(); i-- > 0;) isGoing[i] = goes(array[i]);
+    std::size_t index = 0;
+    std::erase_if(array, [&](const Value&) { return isGoing[index++]; });
 }
 
 template <class Sameness>
@@ -31,7 +34,7 @@ Array arrayWithout(const Array& array, Predicate goes) {
 
 void removeIdenticalObjectsInArray(Array& array, const Array& objects) {
     const ValueSet<ByIdentity> going(objects);
-    std::erase_if(array, [&](const Value& element) { return going.contains(element); });
+    removeFromTheEnd(array, [&](const Value& element) { return going.contains(element); });
 }
 
 void removeObjectsNotInArray(Array& array, const Array& objects) {

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "QZCore/codecs/arrays.h"
-#include "codecs/value_sets.h"
+#include "codecs/value_set.h"
 
 namespace QZCore {
 
@@ -17,20 +17,20 @@ bool containsAnyObjectsIdenticalTo(const Array& array, const Array& objects) {
 }
 
 bool containsAllObjectsIdenticalTo(const Array& array, const Array& objects) {
-    ValueSet<ByIdentity> missing(objects);
+    ValueSet<ByIdentity> wanted(objects);
     for (const Value& element : array) {
-        if (missing.empty()) return true;
-        missing.take(element);
+        if (wanted.left() == 0) return true;
+        wanted.tickOff(element);
     }
-    return missing.empty();
+    return wanted.left() == 0;
 }
 
 std::vector<std::size_t> indexesOfObjects(const Array& array, const Array& objects) {
     ValueSet<ByEquality> wanted(objects);
     std::vector<std::size_t> indexes;
-    for (std::size_t i = 0; i < array.size() && !wanted.empty(); ++i) {
+    for (std::size_t i = 0; i < array.size() && wanted.left() > 0; ++i) {
         // Once found, an object has its first index.
-        if (wanted.take(array[i])) indexes.push_back(i);
+        if (wanted.tickOff(array[i])) indexes.push_back(i);
     }
     return indexes;
 }
