@@ -23,13 +23,13 @@ std::int32_t headerSize(const RenderingContext& context, std::size_t level) {
     return intValue(rest);
 }
 
-Dictionary headerStyle(const RenderingContext& context, std::size_t level) {
+/// What all levels have in common: all but the size.
+Dictionary commonStyle(const RenderingContext& context) {
     const Preferences& preferences = context.preferences;
     const auto number = [&](StringView key, double otherwise) {
         return preferences.doubleForKey(key, otherwise);
     };
     Dictionary style{
-        {kStyleFontSize, headerSize(context, level)},
         {kStyleFontBold, preferences.boolForKey(u"Markdown Header Bold", true)},
         {kStyleLineHeightMultiple, number(u"Markdown Header Line Height Multiple", 1)},
         {kStyleLineSpacing, number(u"Markdown Header Line Spacing", 0)},
@@ -44,7 +44,8 @@ Dictionary headerStyle(const RenderingContext& context, std::size_t level) {
 /// The title takes the style of its level.
 class HeaderEditor final : public MatchEditor {
 public:
-    explicit HeaderEditor(const RenderingContext& context) : context_(context) {}
+    explicit HeaderEditor(const RenderingContext& context)
+        : context_(context), commonStyle_(commonStyle(context)) {}
 
     MatchEdit edit(const SpanMatch& match, std::uint32_t id) override {
         const std::size_t level = match.groups[0].end - match.groups[0].start;
@@ -54,11 +55,18 @@ public:
 private:
     ResolvedStyles& stylesOf(std::size_t level) {
         std::optional<ResolvedStyles>& styles = levels_[level - 1];
-        if (!styles) styles.emplace(context_, headerStyle(context_, level), String(level, u'#'));
+        if (!styles) styles.emplace(context_, styleOf(level), String(level, u'#'));
         return *styles;
     }
 
+    [[nodiscard]] Dictionary styleOf(std::size_t level) const {
+        Dictionary style = commonStyle_;
+        style.setObject(headerSize(context_, level), kStyleFontSize);
+        return style;
+    }
+
     const RenderingContext& context_;
+    const Dictionary commonStyle_;
     std::array<std::optional<ResolvedStyles>, kLevels> levels_;
 };
 

@@ -31,7 +31,7 @@ StringView partOf(StringView text, SpanMatch::Span span) {
 TextAttributes linkLook(const RenderingContext& context) {
     TextAttributes look;
     const auto color = colorForKey(context.preferences, u"Link Color");
-    if (color && !color->isEqualByString(Color::clearColor())) {
+    if (color && *color != Color::clearColor()) {
         look = look.withAttribute(attributeNames().foregroundColor, Value::boxed(*color));
     }
     if (context.preferences.boolForKey(u"Link Underline", true)) {

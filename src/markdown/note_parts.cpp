@@ -69,6 +69,22 @@ void cutAt(std::size_t end, FlatText& text) {
     text.runs.erase(last + 1, text.runs.end());
 }
 
+/// The part that starts at `start`, `length` units long or shorter; longer where
+/// it cannot be cut.
+FlatText partFrom(const NoteSource& note, std::size_t start, std::size_t length,
+                  AttributePalette& palette) {
+    constexpr std::size_t kGrowth = 8;
+    for (;; length *= kGrowth) {
+        FlatText part = note.part({start, length}, std::move(palette));
+        palette = std::move(part.palette);
+        if (start + part.text.size() == note.length()) return part;
+        const std::size_t cut = lastCut(part.text);
+        if (cut == 0) continue;
+        cutAt(cut, part);
+        return part;
+    }
+}
+
 bool hasOwnLinkPattern(const MarkdownSyntax& syntax) {
     const MarkdownExpression* link = syntax.expressionForKey(kMarkdownLink);
     return link != nullptr && link->pattern() != kDefaultLinkPattern;
@@ -107,24 +123,10 @@ std::size_t lastCut(StringView text) {
 
 std::vector<FlatText> notePartsOf(const NoteSource& note, const MarkdownSyntax& syntax,
                                   AttributePalette& palette, std::size_t partLength) {
-    constexpr std::size_t kGrowth = 8;
+    const std::size_t length = hasOwnLinkPattern(syntax) ? note.length() : partLength;
     std::vector<FlatText> parts;
-    const std::size_t length = note.length();
-    std::size_t wanted = hasOwnLinkPattern(syntax) ? length : partLength;
-    for (std::size_t start = 0; start < length;) {
-        FlatText part = note.part({start, wanted}, std::move(palette));
-        palette = std::move(part.palette);
-        if (start + part.text.size() < length) {
-            const std::size_t cut = lastCut(part.text);
-            if (cut == 0) {
-                wanted *= kGrowth;
-                continue;
-            }
-            cutAt(cut, part);
-            wanted = partLength;
-        }
-        start += part.text.size();
-        parts.push_back(std::move(part));
+    for (std::size_t start = 0; start < note.length(); start += parts.back().text.size()) {
+        parts.push_back(partFrom(note, start, length, palette));
     }
     return parts;
 }

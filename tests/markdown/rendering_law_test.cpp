@@ -192,7 +192,7 @@ private:
     TextAttributes linkLook() const {
         TextAttributes look = markOfCode();
         const auto linkColor = color(u"Link Color");
-        if (linkColor && !linkColor->isEqualByString(Color::clearColor())) {
+        if (linkColor && *linkColor != Color::clearColor()) {
             look = look.withAttribute(NSForegroundColorAttributeName, Value::boxed(*linkColor));
         }
         if (!settings_.preferences().boolForKey(u"Link Underline", true)) return look;

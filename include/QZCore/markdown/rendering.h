@@ -30,7 +30,7 @@ inline constexpr StringView kIgnoreBlockAttributeName = u"VelnaIgnoreBlock";
 ///
 /// The passes run in a fixed order: code blocks, links and images, inline code,
 /// emoji, italic with asterisks and with underscores, bold, bold italic,
-/// underline, strikethrough, the three highlights, block quotes, headers.
+/// underline, strikethrough, the three highlights, block quotes, headers, lists.
 /// A backslash before a marker keeps it as a plain character. Attributes are
 /// fixed at the end.
 QZ_EXPORT void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles);
