@@ -1,9 +1,9 @@
 // List items as paragraphs of a flat text.
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <map>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -42,7 +42,11 @@ private:
         std::uint32_t level = 0;
         std::size_t widthClass = 0;
 
-        friend auto operator<=>(const ParagraphKey&, const ParagraphKey&) = default;
+        friend bool operator==(const ParagraphKey&, const ParagraphKey&) = default;
+        friend bool operator<(const ParagraphKey& a, const ParagraphKey& b) {
+            return std::tie(a.lists, a.level, a.widthClass) <
+                   std::tie(b.lists, b.level, b.widthClass);
+        }
     };
 
     /// A paragraph style, and sets of attributes with it put in.

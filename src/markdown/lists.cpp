@@ -129,6 +129,8 @@ RichText richTextListFromMarkdown(const RichText& markdown, bool hasTitle,
                                     Preferences::shared());
 }
 
+// The parameters are those of the overload without preferences.
+// NOLINTNEXTLINE(readability-function-size)
 void richTextListForNode(const QZTreeNode& node, const TextAttributes& withPrefixAttributes,
                          const StyleSheet& withStyles, bool indentFirstLevel,
                          const std::vector<TextList>& textLists, RichText& intoBuffer,
