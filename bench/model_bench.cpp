@@ -34,6 +34,8 @@ std::size_t parentOf(std::size_t node, Shape shape) {
 
 struct Ours {
     using Node = std::shared_ptr<QZTreeNode>;
+    using Nodes = QZTreeNodes;
+
     static Node make(std::size_t number) { return QZTreeNode::treeNodeWithData(number); }
     static void add(const Node& parent, const Node& child) { parent->addChild(child); }
     static bool find(const Node& root, std::size_t number) {
@@ -47,6 +49,7 @@ struct Ours {
 struct Recursive {
     struct Tree;
     using Node = std::shared_ptr<Tree>;
+    using Nodes = std::vector<Node>;
     struct Tree {
         Value data;
         std::weak_ptr<Tree> parent;
@@ -84,18 +87,25 @@ struct Recursive {
     }
 };
 
-/// Qt's items, of which the root owns the others.
+/// Qt's items, which own their children.
 struct Qt {
-    using Node = std::shared_ptr<QStandardItem>;
+    using Node = QStandardItem*;
+    struct Nodes : std::vector<Node> {
+        explicit Nodes(Node root) : std::vector<Node>{root} {}
+        ~Nodes() {
+            if (!empty()) delete front();
+        }
+        Nodes(Nodes&&) = default;
+        Nodes& operator=(Nodes&&) = delete;
+    };
+
     static Node make(std::size_t number) {
         auto item = std::make_unique<QStandardItem>();
         item->setData(static_cast<qulonglong>(number));
-        return {item.release(), [](QStandardItem* made) {
-                    if (made->parent() == nullptr) delete made;
-                }};
+        return item.release();
     }
-    static void add(const Node& parent, const Node& child) { parent->appendRow(child.get()); }
-    static bool find(const Node& root, std::size_t number) {
+    static void add(Node parent, Node child) { parent->appendRow(child); }
+    static bool find(Node root, std::size_t number) {
         const QVariant data(static_cast<qulonglong>(number));
         const auto isIn = [&data](const auto& self, const QStandardItem& item) -> bool {
             if (item.data() == data) return true;
@@ -109,8 +119,8 @@ struct Qt {
 };
 
 template <class Tree>
-std::vector<typename Tree::Node> treeOf(std::size_t count, Shape shape) {
-    std::vector<typename Tree::Node> nodes{Tree::make(0)};
+typename Tree::Nodes treeOf(std::size_t count, Shape shape) {
+    typename Tree::Nodes nodes{Tree::make(0)};
     for (std::size_t i = 1; i < count; ++i) {
         nodes.push_back(Tree::make(i));
         Tree::add(nodes[parentOf(i, shape)], nodes.back());

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "QZCore/model/tree_node.h"
-#include "model/node_table.h"
+#include "model/identity_table.h"
 
 namespace QZCore {
 
@@ -14,7 +14,7 @@ namespace QZCore {
 class Ancestry {
 public:
     /// Stands for the number of a parent where there is none.
-    static constexpr std::uint32_t kNone = NodeTable::kNone;
+    static constexpr std::uint32_t kNone = IdentityTable::kNone;
 
     explicit Ancestry(const QZTreeNodes& nodes);
 
@@ -33,7 +33,7 @@ public:
 private:
     void climbFrom(const QZTreeNode* node);
 
-    NodeTable table_;
+    IdentityTable table_;
     std::vector<std::uint32_t> parents_;
     std::vector<std::uint32_t> topDown_;
 };

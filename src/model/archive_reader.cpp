@@ -191,23 +191,6 @@ std::nullopt_t ArchiveReader::unreadable(StringView reason, StringView name) {
     return std::nullopt;
 }
 
-// ---- For callers ------------------------------------------------------------
-
-bool ArchiveDecoder::containsValueForKey(StringView key) const {
-    return std::ranges::find(keys_, key) != keys_.end();
-}
-
-std::optional<Value> ArchiveDecoder::decodeObjectForKey(StringView key) const {
-    const auto found = std::ranges::find(keys_, key);
-    if (found == keys_.end()) return Value();
-    return made_[contents_[static_cast<std::size_t>(found - keys_.begin())]];
-}
-
-std::optional<Value> ArchiveDecoder::decodeObject() {
-    if (allowsKeyedCoding() || next_ == contents_.size()) return Value();
-    return made_[contents_[next_++]];
-}
-
 PropertyListResult unarchivedValue(DataView bytes, const ArchiveClasses& classes) {
     return ArchiveReader(classes).read(bytes);
 }

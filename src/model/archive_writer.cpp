@@ -101,18 +101,17 @@ PropertyListData ArchiveWriter::write(const Value& root) {
 
 // ---- References ----
 
-/// Something that only one value refers to cannot be met again, and need not be
-/// found again.
 ArchiveWriter::Number ArchiveWriter::numberOf(const Value& value) {
     if (value.isAbsent()) return 0;
     const auto next = static_cast<Number>(values_.size() + 1);
-    if (value.isShared()) {
-        const auto [at, isNew] = numbers_.try_emplace(sharedThing(value), next);
-        if (!isNew) return at->second;
-    }
-    if (next == UINT32_MAX) {
+    if (next == IdentityTable::kNone) {
         fail(u"too many objects");
         return 0;
+    }
+    // What only this value refers to cannot be met again.
+    if (value.isShared()) {
+        const void* thing = sharedThing(value);
+        if (!numbers_.add(thing, next)) return numbers_.find(thing);
     }
     values_.push_back(value);
     return next;
@@ -205,20 +204,6 @@ void ArchiveWriter::failCoding() {
 
 void ArchiveWriter::fail(StringView reason) {
     if (error_.empty()) error_ = reason;
-}
-
-// ---- For callers ----
-
-bool ArchiveEncoder::allowsKeyedCoding() const { return writer_.coding() == ArchiveCoding::Keyed; }
-
-void ArchiveEncoder::encodeObject(const Value& object, StringView forKey) {
-    if (!allowsKeyedCoding()) return writer_.failCoding();
-    writer_.addContent(object, forKey);
-}
-
-void ArchiveEncoder::encodeObject(const Value& object) {
-    if (allowsKeyedCoding()) return writer_.failCoding();
-    writer_.addContent(object);
 }
 
 PropertyListData archivedData(const Value& root, const ArchiveClasses& classes,

@@ -6,6 +6,7 @@
 #include "QZCore/model/archive.h"
 #include "model/archive_format.h"
 #include "model/archive_graph.h"
+#include "model/identity_table.h"
 
 namespace QZCore {
 
@@ -42,7 +43,7 @@ private:
     const ArchiveClasses& classes_;
     const ArchiveCoding coding_;
     std::vector<Value> values_;  // from number 1 on; held, so that no address is used twice
-    std::unordered_map<const void*, Number> numbers_;
+    IdentityTable numbers_;
     ArchiveGraph graph_;
     Array forms_;
     std::unordered_map<String, std::int64_t> formNumbers_;

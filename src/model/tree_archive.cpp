@@ -34,14 +34,14 @@ std::optional<QZTreeNodes> nodesIn(const Value& list) {
 }  // namespace
 
 void QZTreeNode::encodeWithCoder(ArchiveEncoder& coder) const {
-    const Value children = hasChildrenList_ ? listOf(children_) : Value();
+    Value children = hasList() ? listOf(this->children()) : Value();
     if (!coder.allowsKeyedCoding()) {
         coder.encodeObject(data_);
-        coder.encodeObject(children);
+        coder.encodeObject(std::move(children));
         return;
     }
     if (!data_.isAbsent()) coder.encodeObject(data_, kDataKey);
-    if (!children.isAbsent()) coder.encodeObject(children, kChildrenKey);
+    if (!children.isAbsent()) coder.encodeObject(std::move(children), kChildrenKey);
 }
 
 std::shared_ptr<QZTreeNode> QZTreeNode::initWithCoder(ArchiveDecoder& coder) {
@@ -55,8 +55,10 @@ bool QZTreeNode::readFromCoder(ArchiveDecoder& coder) {
     const auto children = isKeyed ? coder.decodeObjectForKey(kChildrenKey) : coder.decodeObject();
     if (!data || !children) return false;
     data_ = *std::move(data);
-    hasChildrenList_ = !children->isAbsent();
-    if (!hasChildrenList_) return true;
+    if (children->isAbsent()) {
+        list_ = std::make_unique<ChildList>(ChildList{{}, true});
+        return true;
+    }
     const auto nodes = nodesIn(*children);
     if (!nodes) return false;
     setChildren(*nodes);

@@ -8,7 +8,7 @@
 
 #include "QZCore/model/tree_node.h"
 #include "codecs/misuse_log.h"
-#include "model/node_table.h"
+#include "model/identity_table.h"
 
 namespace QZCore {
 namespace {
@@ -64,9 +64,10 @@ void QZTreeNode::addChildren(QZTreeNodes children) {
 
 void QZTreeNode::insertChild(std::shared_ptr<QZTreeNode> child, std::size_t atIndex) {
     if (child != nullptr) child->parent_ = weak_from_this();
-    if (!hasChildrenList_) return;
-    if (!canInsert(child, atIndex, children_.size(), __builtin_return_address(0))) return;
-    children_.insert(childAt(children_, atIndex), std::move(child));
+    if (!hasList()) return;
+    if (!canInsert(child, atIndex, numberOfChildren(), __builtin_return_address(0))) return;
+    QZTreeNodes& list = changeableChildren();
+    list.insert(childAt(list, atIndex), std::move(child));
 }
 
 void QZTreeNode::insertChildren(QZTreeNodes children, std::size_t atIndex) {
@@ -78,12 +79,13 @@ void QZTreeNode::insertChildren(QZTreeNodes children, std::size_t atIndex) {
             child->parent_ = weak_from_this();
         }
     }
-    if (!hasChildrenList_) return;
-    if (isComplete && atIndex <= children_.size()) {
-        children_.insert(childAt(children_, atIndex), std::make_move_iterator(children.begin()),
-                         std::make_move_iterator(children.end()));
+    if (!hasList()) return;
+    QZTreeNodes& list = changeableChildren();
+    if (isComplete && atIndex <= list.size()) {
+        list.insert(childAt(list, atIndex), std::make_move_iterator(children.begin()),
+                    std::make_move_iterator(children.end()));
     } else {
-        insertOneByOne(children_, std::move(children), atIndex, __builtin_return_address(0));
+        insertOneByOne(list, std::move(children), atIndex, __builtin_return_address(0));
     }
 }
 
@@ -95,19 +97,22 @@ void QZTreeNode::removeChild(const std::shared_ptr<QZTreeNode>& child) {
 }
 
 void QZTreeNode::removeChildrenIdenticalTo(const QZTreeNodes& nodes) {
-    const NodeTable table(nodes);
+    const IdentityTable table(nodes);
     for (const auto& node : nodes) {
         if (node != nullptr) node->parent_.reset();
     }
+    if (!hasChildren()) return;
+    QZTreeNodes& list = list_->nodes;
     const auto stays = [&table](const auto& child) { return !table.contains(child.get()); };
-    const auto firstRemoved = std::stable_partition(children_.begin(), children_.end(), stays);
+    const auto firstRemoved = std::stable_partition(list.begin(), list.end(), stays);
     const QZTreeNodes removed(std::make_move_iterator(firstRemoved),
-                              std::make_move_iterator(children_.end()));
-    children_.erase(firstRemoved, children_.end());
+                              std::make_move_iterator(list.end()));
+    list.erase(firstRemoved, list.end());
 }
 
 void QZTreeNode::removeAllChildren() {
-    const QZTreeNodes removed = std::exchange(children_, {});
+    if (!hasChildren()) return;
+    const QZTreeNodes removed = std::exchange(list_->nodes, {});
     for (const auto& child : removed) child->parent_.reset();
 }
 

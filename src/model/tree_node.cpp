@@ -8,9 +8,7 @@
 namespace QZCore {
 
 std::shared_ptr<QZTreeNode> QZTreeNode::treeNodeWithData(Value data) {
-    auto node = std::make_shared<QZTreeNode>(Making());
-    node->data_ = std::move(data);
-    return node;
+    return std::make_shared<QZTreeNode>(Making(), std::move(data));
 }
 
 std::shared_ptr<QZTreeNode> QZTreeNode::initWithData(Value data,
@@ -18,16 +16,13 @@ std::shared_ptr<QZTreeNode> QZTreeNode::initWithData(Value data,
                                                      const std::optional<QZTreeNodes>& children) {
     auto node = treeNodeWithData(std::move(data));
     node->parent_ = parent;
-    if (children) {
-        node->children_ = *children;
-        std::erase(node->children_, nullptr);
-    }
+    if (children) node->replaceList(*children);
     return node;
 }
 
 QZTreeNode::~QZTreeNode() {
     releaseValue(data_);
-    if (hasChildren()) Release<QZTreeNodes>::later(std::move(children_));
+    if (hasChildren()) Release<QZTreeNodes>::later(std::move(list_->nodes));
 }
 
 std::shared_ptr<QZTreeNode> QZTreeNode::newNode() const { return treeNodeWithData({}); }
@@ -37,14 +32,29 @@ std::shared_ptr<QZTreeNode> QZTreeNode::shared() const {
     return std::const_pointer_cast<QZTreeNode>(weak_from_this().lock());
 }
 
-void QZTreeNode::setChildren(const QZTreeNodes& children) {
-    QZTreeNodes before;
-    if (&children != &children_) {
-        before = std::exchange(children_, children);
-        std::erase(children_, nullptr);
-        hasChildrenList_ = true;
-    }
-    for (const auto& child : children_) child->parent_ = weak_from_this();
+// ---- The list of children ----
+
+const QZTreeNodes& QZTreeNode::noChildren() {
+    static const QZTreeNodes& none = *new QZTreeNodes;
+    return none;
+}
+
+QZTreeNodes& QZTreeNode::changeableChildren() {
+    if (list_ == nullptr) list_ = std::make_unique<ChildList>();
+    return list_->nodes;
+}
+
+/// Takes `nodes` as the list. The one before goes when the new one is in place.
+void QZTreeNode::replaceList(QZTreeNodes nodes) {
+    std::erase(nodes, nullptr);
+    std::unique_ptr<ChildList> list;
+    if (!nodes.empty()) list = std::make_unique<ChildList>(ChildList{std::move(nodes)});
+    list_.swap(list);
+}
+
+void QZTreeNode::setChildren(const QZTreeNodes& nodes) {
+    if (&nodes != &children() || !hasList()) replaceList(nodes);
+    for (const auto& child : children()) child->parent_ = weak_from_this();
 }
 
 String QZTreeNode::description() const {

@@ -4,10 +4,17 @@
 
 #include "QZCore/model/tree_node.h"
 #include "model/ancestors.h"
-#include "model/node_table.h"
+#include "model/identity_table.h"
 #include "model/tree_walk.h"
 
 namespace QZCore {
+namespace {
+
+std::size_t indexOf(QZTreeNodes::const_iterator found, const QZTreeNodes& list) {
+    return found == list.end() ? kNotFound : static_cast<std::size_t>(found - list.begin());
+}
+
+}  // namespace
 
 // ---- Children and siblings ----
 
@@ -16,23 +23,19 @@ std::size_t QZTreeNode::indexOfChild(const std::shared_ptr<QZTreeNode>& child) c
     const auto isEqual = [&child](const auto& own) {
         return own == child || own->isEqualTo(*child);
     };
-    const auto found = std::find_if(children_.begin(), children_.end(), isEqual);
-    return found == children_.end() ? kNotFound
-                                    : static_cast<std::size_t>(found - children_.begin());
+    return indexOf(std::ranges::find_if(children(), isEqual), children());
 }
 
 std::size_t QZTreeNode::indexOfChildIdenticalTo(const std::shared_ptr<QZTreeNode>& child) const {
-    const auto found = std::find(children_.begin(), children_.end(), child);
-    return found == children_.end() ? kNotFound
-                                    : static_cast<std::size_t>(found - children_.begin());
+    return indexOf(std::ranges::find(children(), child), children());
 }
 
 std::shared_ptr<QZTreeNode> QZTreeNode::childAtIndex(std::size_t index) const {
-    return index < children_.size() ? children_[index] : nullptr;
+    return index < numberOfChildren() ? children()[index] : nullptr;
 }
 
 std::shared_ptr<QZTreeNode> QZTreeNode::lastChild() const {
-    return hasChildren() ? children_.back() : nullptr;
+    return hasChildren() ? children().back() : nullptr;
 }
 
 std::shared_ptr<QZTreeNode> QZTreeNode::nextSibling() const {
@@ -74,7 +77,7 @@ bool QZTreeNode::isDescendantOfNode(const std::shared_ptr<QZTreeNode>& node) con
 }
 
 bool QZTreeNode::isDescendantOfNodeInArray(const QZTreeNodes& nodes) const {
-    const NodeTable table(nodes);
+    const IdentityTable table(nodes);
     Ancestors ancestors(*this);
     while (const QZTreeNode* ancestor = ancestors.next()) {
         if (table.contains(ancestor)) return true;

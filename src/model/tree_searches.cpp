@@ -47,6 +47,7 @@ std::shared_ptr<QZTreeNode> QZTreeNode::nodeWithDataIdenticalTo(const Value& dat
 
 std::shared_ptr<QZTreeNode> QZTreeNode::nodeWithDataProperty(
     const Value& property, PropertySelector withPropertySelector) const {
+    if (property.isAbsent()) return nullptr;
     const auto* found = firstNode(*this, [&](const QZTreeNode& node) {
         return !node.data().isAbsent() && withPropertySelector(node.data()) == property;
     });

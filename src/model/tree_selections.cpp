@@ -103,7 +103,7 @@ std::shared_ptr<QZTreeNode> QZTreeNode::extractTreeFromTree(
     const std::shared_ptr<QZTreeNode>& tree, const QZTreeNodes& containingNodesInArray) {
     auto root = treeNodeWithData({});
     if (tree == nullptr) return root;
-    const NodeTable wanted(containingNodesInArray);
+    const IdentityTable wanted(containingNodesInArray);
     // At each depth of the walk, the node that takes up those found below.
     QZTreeNodes targets{root};
     TreeWalk walk(*tree);

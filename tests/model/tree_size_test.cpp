@@ -111,7 +111,10 @@ TEST_CASE("a node below itself ends every walk") {
         CHECK_FALSE(QZTreeNode::rootBranchNodesFromNodesInArray(nodes).empty());
         CHECK(QZTreeNode::removeDescendantsFromNodesInArray(nodes).size() <= length);
         node->setData(Value(node));
-        CHECK(node->copyWithZone()->data().object() != nullptr);
+        const auto copy = node->copyWithZone();
+        CHECK(objectIn<QZTreeNode>(copy->data()) == copy);
+        copy->setData(Value());
+        copy->removeAllChildren();
         node->setData(Value());
         node->pruneToLevel(1000);
         nodes.back()->removeAllChildren();

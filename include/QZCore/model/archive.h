@@ -42,11 +42,11 @@ public:
     /// Adds `object`, which may be absent, under a key that is used once, in a
     /// keyed archive. In a sequential one this is a mistake and nothing is
     /// written.
-    void encodeObject(const Value& object, StringView forKey);
+    void encodeObject(Value object, StringView forKey);
 
     /// Adds `object`, which may be absent, in a sequential archive. In a keyed
     /// one this is a mistake and nothing is written.
-    void encodeObject(const Value& object);
+    void encodeObject(Value object);
 
     ArchiveEncoder(const ArchiveEncoder&) = delete;
     ArchiveEncoder& operator=(const ArchiveEncoder&) = delete;

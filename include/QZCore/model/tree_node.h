@@ -55,7 +55,7 @@ public:
         const std::optional<QZTreeNodes>& children);
 
     /// For this class only; nodes are made by the functions above.
-    explicit QZTreeNode(Making /*only*/) {}
+    QZTreeNode(Making /*only*/, Value data) : data_(std::move(data)) {}
 
     /// Lets go of the datum and the children. Children that somebody else holds
     /// are left without parent.
@@ -70,12 +70,14 @@ public:
     void setParent(const std::shared_ptr<QZTreeNode>& parent) { parent_ = parent; }
 
     /// The children in order. Valid until they change.
-    [[nodiscard]] const QZTreeNodes& children() const { return children_; }
+    [[nodiscard]] const QZTreeNodes& children() const {
+        return list_ == nullptr ? noChildren() : list_->nodes;
+    }
 
     /// Takes a copy of the list, unless it is the very list that the node
     /// holds, and makes the node the parent of all in it. Former children keep
     /// their parent.
-    void setChildren(const QZTreeNodes& children);
+    void setChildren(const QZTreeNodes& nodes);
 
     /// The datum.
     [[nodiscard]] const Value& data() const { return data_; }
@@ -139,10 +141,10 @@ public:
         const std::shared_ptr<QZTreeNode>& child) const;
 
     /// Whether there are children.
-    [[nodiscard]] bool hasChildren() const { return !children_.empty(); }
+    [[nodiscard]] bool hasChildren() const { return list_ != nullptr && !list_->nodes.empty(); }
 
     /// The number of children.
-    [[nodiscard]] std::size_t numberOfChildren() const { return children_.size(); }
+    [[nodiscard]] std::size_t numberOfChildren() const { return children().size(); }
 
     /// The first child; empty when there is none.
     [[nodiscard]] std::shared_ptr<QZTreeNode> firstChild() const { return childAtIndex(0); }
@@ -195,7 +197,8 @@ public:
     /// without a datum.
     [[nodiscard]] std::shared_ptr<QZTreeNode> nodeWithDataIdenticalTo(const Value& data) const;
 
-    /// The node with a datum whose property is equal to `property`.
+    /// The node with a datum whose property is equal to `property`. An absent
+    /// property equals none.
     [[nodiscard]] std::shared_ptr<QZTreeNode> nodeWithDataProperty(
         const Value& property, PropertySelector withPropertySelector) const;
 
@@ -313,6 +316,8 @@ protected:
     [[nodiscard]] bool readFromCoder(ArchiveDecoder& coder);
 
 private:
+    class Copier;
+
     [[nodiscard]] std::shared_ptr<QZTreeNode> shared() const;
     [[nodiscard]] static std::size_t maxLevelUnderNode(const QZTreeNode& node,
                                                        std::size_t withCurrentLevel);
@@ -320,12 +325,21 @@ private:
     [[nodiscard]] bool addChildrenDataToArray(Array& array) const;
     void addChildrenPropertyToArray(Array& array, PropertySelector withPropertySelector) const;
 
+    struct ChildList {
+        QZTreeNodes nodes;
+        // Only a node read from an archive without children has no list. It
+        // takes none up until it is given a list as a whole.
+        bool isMissing = false;
+    };
+
+    [[nodiscard]] static const QZTreeNodes& noChildren();
+    [[nodiscard]] bool hasList() const { return list_ == nullptr || !list_->isMissing; }
+    [[nodiscard]] QZTreeNodes& changeableChildren();
+    void replaceList(QZTreeNodes nodes);
+
     std::weak_ptr<QZTreeNode> parent_;
-    QZTreeNodes children_;
+    std::unique_ptr<ChildList> list_;  // most nodes are leaves and go without
     Value data_;
-    // Only a node read from an archive without children has no list. It takes
-    // none up until it is given a list as a whole.
-    bool hasChildrenList_ = true;
 };
 
 }  // namespace QZCore
