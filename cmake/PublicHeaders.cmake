@@ -29,8 +29,18 @@ set(QZCORE_PUBLIC_HEADERS
   foundation/text.h
   foundation/value.h
   geometry.h
+  geometry/angles.h
+  geometry/descriptions.h
+  geometry/distances.h
+  geometry/intersections.h
+  geometry/placement.h
   geometry/plane.h
+  geometry/points.h
+  geometry/rectangles.h
+  geometry/sentinels.h
+  geometry/sizes.h
   geometry/stored_sizes.h
+  geometry/whole_numbers.h
   markdown.h
   markdown/detection.h
   markdown/emoji.h
