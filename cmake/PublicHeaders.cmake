@@ -32,6 +32,7 @@ set(QZCORE_PUBLIC_HEADERS
   geometry/angles.h
   geometry/descriptions.h
   geometry/distances.h
+  geometry/hull.h
   geometry/intersections.h
   geometry/placement.h
   geometry/plane.h

@@ -11,6 +11,7 @@
 #include "QZCore/geometry/angles.h"
 #include "QZCore/geometry/descriptions.h"
 #include "QZCore/geometry/distances.h"
+#include "QZCore/geometry/hull.h"
 #include "QZCore/geometry/intersections.h"
 #include "QZCore/geometry/placement.h"
 #include "QZCore/geometry/plane.h"
