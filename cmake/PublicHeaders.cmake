@@ -38,6 +38,7 @@ set(QZCORE_PUBLIC_HEADERS
   geometry/plane.h
   geometry/points.h
   geometry/rectangles.h
+  geometry/rotated_rectangles.h
   geometry/sentinels.h
   geometry/sizes.h
   geometry/stored_sizes.h

@@ -17,6 +17,7 @@
 #include "QZCore/geometry/plane.h"
 #include "QZCore/geometry/points.h"
 #include "QZCore/geometry/rectangles.h"
+#include "QZCore/geometry/rotated_rectangles.h"
 #include "QZCore/geometry/sentinels.h"
 #include "QZCore/geometry/sizes.h"
 #include "QZCore/geometry/stored_sizes.h"
