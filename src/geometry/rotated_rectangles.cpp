@@ -64,9 +64,11 @@ bool selectionRectIncludesRotatedRect(Rect selection, Rect rect, float angle, Po
     if (reach.isOutside(selection)) return false;
     if (reach.isInside(selection)) return true;
 
-    const Corners corners = rotatedCorners(rect, center, angle);
-    const auto isSelected = [&](Point corner) { return contains(selection, corner); };
-    if (std::ranges::any_of(corners, isSelected)) return true;
+    Corners corners = cornersOf(rect);
+    for (Point& corner : corners) {
+        corner = rotatePointAroundPoint(corner, center, angle);
+        if (contains(selection, corner)) return true;
+    }
     if (edgeCrosses(corners, selection)) return true;
     if (!insideFlag) return false;
     return std::ranges::all_of(cornersOf(selection), [&](Point corner) {
