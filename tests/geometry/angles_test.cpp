@@ -50,28 +50,33 @@ TEST_CASE("degrees and radians convert in double precision") {
 }
 
 TEST_CASE("the distance from a right angle goes up and down by bands") {
-    const float rows[][2] = {{350, 10},
-                             {300, 30},
-                             {45, 45},
-                             {46, 44},
-                             {90, 0},
-                             {91, 1},
-                             {135, 45},
-                             {136, 44},
-                             {180, 0},
-                             {225, 45},
-                             {226, 44},
-                             {270, 0},
-                             {315, 45},
-                             {316, 44},
-                             {360, 0},
-                             {400, -40},
-                             {-10, -10},
-                             {0, 0},
-                             {INFINITY, -INFINITY}};
-    for (const auto& [degrees, distance] : rows) {
-        CAPTURE(degrees);
-        CHECK(degreesFromNearest45(degrees) == distance);
+    struct Row {
+        float degrees, distance;
+    };
+    const Row rows[] = {
+        {350, 10},
+        {300, 30},
+        {45, 45},
+        {46, 44},
+        {90, 0},
+        {91, 1},
+        {135, 45},
+        {136, 44},
+        {180, 0},
+        {225, 45},
+        {226, 44},
+        {270, 0},
+        {315, 45},
+        {316, 44},
+        {360, 0},
+        {0, 0},
+        {400, -40},
+        {-10, -10},
+        {INFINITY, -INFINITY},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.degrees);
+        CHECK(degreesFromNearest45(row.degrees) == row.distance);
     }
     CHECK(std::isnan(degreesFromNearest45(NAN)));
 }
