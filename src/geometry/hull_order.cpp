@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 namespace QZCore {
@@ -49,8 +50,8 @@ private:
 };
 
 Buckets bucketsFor(std::span<const Point> points) {
-    double least = INFINITY;
-    double greatest = -INFINITY;
+    double least = std::numeric_limits<double>::infinity();
+    double greatest = -std::numeric_limits<double>::infinity();
     for (const Point& point : points) {
         least = point.x < least ? point.x : least;
         greatest = point.x > greatest ? point.x : greatest;
