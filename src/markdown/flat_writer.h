@@ -50,6 +50,11 @@ class FlatWriter {
 public:
     [[nodiscard]] StringView text() const { return text_; }
 
+    void reserve(std::size_t length, std::size_t runs) {
+        text_.reserve(length);
+        runs_.reserve(runs);
+    }
+
     void append(StringView text, std::uint32_t id) {
         text_.append(text);
         appendRun(runs_, static_cast<std::uint32_t>(text_.size()), id);

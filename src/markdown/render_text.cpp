@@ -119,6 +119,9 @@ private:
 
 void RenderText::load(FlatText part, AddedAttributes& everywhere) {
     flat_ = std::move(part);
+    const std::size_t expectedRuns = flat_.text.size() / 16;
+    flat_.runs.reserve(expectedRuns);
+    sweptRuns_.reserve(expectedRuns);
     // The attribute that keeps passes away is replaced by the mark.
     const auto marked = [&](std::uint32_t old) {
         const TextAttributes before = flat_.palette.at(old);

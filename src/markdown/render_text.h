@@ -147,6 +147,8 @@ private:
 template <class Write>
 void RenderText::rewrite(Write write) {
     FlatWriter out;
+    // Markers are longer than what they replace, mostly by their tabs.
+    out.reserve(flat_.text.size() + flat_.text.size() / 8, flat_.runs.size() * 2);
     RunWalk ahead(flat_.runs);
     RunWalk runs(flat_.runs);
     std::uint32_t done = 0;
