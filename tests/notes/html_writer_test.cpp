@@ -98,6 +98,25 @@ TEST_CASE("constructs become the elements that mean them") {
          "<code>a\n\nb</code></pre>\n"},
         {"headings take their look from their first run", u"### a __b__",
          "<h3 style=\"font-size:18pt;margin-top:5pt;margin-bottom:2pt;\">a <u>b</u></h3>\n"},
+        {"quotations", u"> a\n> b\n",
+         "<blockquote dir=\"auto\">\n"
+         "<p "
+         "style=\"padding-bottom:10pt;padding-inline-start:18pt;padding-inline-end:18pt;\">a</p>\n"
+         "<p "
+         "style=\"margin-bottom:10pt;padding-inline-start:18pt;padding-inline-end:18pt;\">b</p>\n"
+         "</blockquote>\n"},
+        {"bullets alternate", u"- a\n\t- b\n\t- c\n- d",
+         "<ul dir=\"auto\">\n<li>a<ul dir=\"auto\" style=\"list-style-type:circle;\">\n"
+         "<li>b</li>\n<li>c</li>\n</ul></li>\n<li>d</li>\n</ul>\n"},
+        {"numbers go on behind bullets", u"1. a\n- b\n1. c\n1. d",
+         "<ol dir=\"auto\">\n<li>a</li>\n</ol>\n<ul dir=\"auto\">\n<li>b</li>\n</ul>\n"
+         "<ol dir=\"auto\" start=\"3\">\n<li>c</li>\n<li>d</li>\n</ol>\n"},
+        {"what belongs to an item", u"- a\n\t- b\n  (c)\n> 1\n- d\n\ne",
+         "<ul dir=\"auto\">\n<li>a<ul dir=\"auto\" style=\"list-style-type:circle;\">\n"
+         "<li>b<p>(c)</p><blockquote dir=\"auto\">\n"
+         "<p "
+         "style=\"margin-bottom:10pt;padding-inline-start:18pt;padding-inline-end:18pt;\">1</p>\n"
+         "</blockquote></li>\n</ul></li>\n<li>d</li>\n</ul>\n<p></p>\n<p>e</p>\n"},
         {"control characters and unpaired surrogates", u"a\x1b\xD800z", "<p>a\uFFFD\uFFFDz</p>\n"},
     };
     for (const Row& row : rows) {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "QZCore/richtext/rich_text.h"
-#include "html_blocks.h"
+#include "blocks.h"
 #include "html_markup.h"
 
 namespace qznote {

@@ -1,10 +1,12 @@
 #include "html_writer.h"
 
+#include <utility>
+
+#include "blocks.h"
 #include "css.h"
-#include "html_blocks.h"
+#include "html_containers.h"
 #include "html_markup.h"
 #include "html_runs.h"
-#include "paragraphs.h"
 
 namespace qznote {
 namespace {
@@ -16,9 +18,13 @@ using namespace QZCore;
 constexpr std::string_view kPageStyle = R"(
 :root { color-scheme: light dark; }
 body { margin: 2rem auto; max-width: 44rem; padding: 0 1.5rem; overflow-wrap: anywhere; }
-main { display: flex; flex-direction: column; }
-p, pre, h1, h2, h3, h4, h5, h6 { margin: 0; min-height: 1.2em; font-size: 1em; font-family: inherit;
-  white-space: pre-wrap; tab-size: 4; unicode-bidi: plaintext; }
+main, blockquote { display: flex; flex-direction: column; }
+p, pre, li, h1, h2, h3, h4, h5, h6 { margin: 0; min-height: 1.2em; font-size: 1em;
+  font-family: inherit; white-space: pre-wrap; tab-size: 4; unicode-bidi: plaintext; }
+ul, ol, blockquote { margin: 0; white-space: normal; }
+ul, ol { padding-inline-start: 1.75em; list-style-type: disc; }
+ol { list-style-type: decimal; }
+blockquote p, blockquote pre { border-inline-start: 3px solid rgba(128,128,128,0.4); }
 pre { padding: 0.75em 1em; border-radius: 6px; }
 code, mark { color: inherit; border-radius: 3px; padding: 0.1em 0.2em; font: inherit; }
 pre code { padding: 0; }
@@ -26,14 +32,30 @@ a { color: inherit; text-decoration: none; }
 img { max-width: 100%; vertical-align: text-bottom; }
 )";
 
+/// The element of a block. An item stands in its list by itself, and needs one
+/// only to carry a style.
+std::string elementOf(const Block& block, StringView style) {
+    switch (block.kind) {
+        case BlockKind::Heading:
+            return "h" + std::to_string(block.level);
+        case BlockKind::Code:
+            return "pre";
+        case BlockKind::Item:
+            return style.empty() ? "" : "p";
+        case BlockKind::Paragraph:
+            break;
+    }
+    return "p";
+}
+
 class Writer {
 public:
     Writer(const RichText& text, const HtmlPage& page)
         : text_(text),
           page_(page),
-          paragraphs_(paragraphsOf(text.string())),
           classifier_(page.base),
-          blocks_(classifier_.blocksOf(text, paragraphs_)),
+          blocks_(classifier_.blocksOf(text)),
+          containers_(out_),
           runs_(text, classifier_, out_) {}
 
     [[nodiscard]] std::string write() {
@@ -43,15 +65,16 @@ public:
         out_ += kPageStyle;
         out_ +=
             "</style>\n</head>\n<body" + markupAttribute("style", styleOfBody()) + ">\n<main>\n";
-        for (const Block& block : blocks_) writeBlock(block);
+        for (std::size_t i = 0; i < blocks_.blocks.size(); ++i) writeBlock(i);
+        containers_.leaveAll();
         out_ += "</main>\n</body>\n</html>\n";
         return std::move(out_);
     }
 
 private:
     [[nodiscard]] String title() const {
-        for (const Block& block : blocks_) {
-            if (block.kind == BlockKind::Heading) return text_.string(paragraphs_[block.first]);
+        for (const Block& block : blocks_.blocks) {
+            if (block.kind == BlockKind::Heading) return text_.string(blocks_.lineOf(block));
         }
         return page_.title;
     }
@@ -68,53 +91,65 @@ private:
         return colors.empty() ? css : css + colors + u"color-scheme:light;";
     }
 
+    [[nodiscard]] TextAttributes firstAttributesOf(const Block& block) const {
+        return text_.attributesAtIndex(blocks_.lineOf(block).location);
+    }
+
     /// What the runs of a block take from the block.
     [[nodiscard]] TextAttributes lookOf(const Block& block) const {
-        const TextAttributes first = text_.attributesAtIndex(paragraphs_[block.first].location);
-        switch (block.kind) {
-            case BlockKind::Code:
-                return first;
-            case BlockKind::Heading:
-                return first.withAttribute(NSBackgroundColorAttributeName,
-                                           page_.base.objectForKey(NSBackgroundColorAttributeName));
-            case BlockKind::Paragraph:
-                break;
-        }
-        return page_.base;
+        if (block.kind == BlockKind::Code) return firstAttributesOf(block);
+        if (block.kind != BlockKind::Heading) return page_.base;
+        return firstAttributesOf(block).withAttribute(
+            NSBackgroundColorAttributeName,
+            page_.base.objectForKey(NSBackgroundColorAttributeName));
     }
 
-    [[nodiscard]] String styleOf(const Block& block, const TextAttributes& look) {
+    /// Whether the block behind this one is a part of the same quotation.
+    [[nodiscard]] bool isQuotedOn(std::size_t index) const {
+        const std::vector<Block>& blocks = blocks_.blocks;
+        return index + 1 < blocks.size() && blocks[index].isQuoted && blocks[index + 1].isQuoted;
+    }
+
+    [[nodiscard]] String styleOf(std::size_t index, const TextAttributes& look) {
         constexpr double kUsualSize = 12;
-        const TextAttributes first = text_.attributesAtIndex(paragraphs_[block.first].location);
+        const Block& block = blocks_.blocks[index];
+        const TextAttributes first = firstAttributesOf(block);
         const double size = look.font() == nullptr ? kUsualSize : look.font()->pointSize;
         String css = runs_.css(look, page_.base);
-        if (const ParagraphStyle* style = first.paragraphStyle())
-            css += cssOfParagraph(*style, size);
-        return css;
+        if (first.paragraphStyle() == nullptr) return css;
+        ParagraphStyle style = *first.paragraphStyle();
+        // The list around an item indents it.
+        if (block.kind == BlockKind::Item) style.headIndent = style.firstLineHeadIndent = 0;
+        // The bar along a quotation goes on between its paragraphs.
+        if (isQuotedOn(index) && style.paragraphSpacing != 0) {
+            css += u"padding-bottom:" + cssLength(std::exchange(style.paragraphSpacing, 0)) + u";";
+        }
+        return css + cssOfParagraph(style, size);
     }
 
-    void writeBlock(const Block& block) {
+    void writeBlock(std::size_t index) {
+        const Block& block = blocks_.blocks[index];
+        containers_.enter(block);
         const TextAttributes look = lookOf(block);
-        const std::string name = block.kind == BlockKind::Heading
-                                     ? "h" + std::to_string(block.level)
-                                 : block.kind == BlockKind::Code ? "pre"
-                                                                 : "p";
-        out_ += "<" + name + markupAttribute("style", styleOf(block, look)) + ">";
+        const String style = styleOf(index, look);
+        const std::string name = elementOf(block, style);
+        if (!name.empty()) out_ += "<" + name + markupAttribute("style", style) + ">";
         if (block.kind == BlockKind::Code) out_ += "<code>";
         for (std::size_t i = block.first; i < block.end; ++i) {
             if (i > block.first) out_ += "\n";
-            runs_.write(paragraphs_[i], look);
+            runs_.write(blocks_.lines[i], look);
         }
         if (block.kind == BlockKind::Code) out_ += "</code>";
-        out_ += "</" + name + ">\n";
+        if (!name.empty()) out_ += "</" + name + ">";
+        if (!block.isInList || block.isQuoted) out_ += "\n";
     }
 
     const RichText& text_;
     const HtmlPage& page_;
-    std::vector<Range> paragraphs_;
     BlockClassifier classifier_;
-    std::vector<Block> blocks_;
+    Blocks blocks_;
     std::string out_;
+    HtmlContainers containers_;
     RunMarkup runs_;
 };
 

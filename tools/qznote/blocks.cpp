@@ -1,0 +1,118 @@
+#include "blocks.h"
+
+#include <algorithm>
+#include <array>
+
+#include "paragraphs.h"
+
+namespace qznote {
+namespace {
+
+using namespace QZCore;
+
+/// Headings have sizes of their own; these are where the next level begins.
+int levelOfHeading(double pointSize) {
+    constexpr std::array<double, 5> kLeastSizes{32, 24, 18, 16, 13};
+    const auto* at =
+        std::ranges::find_if(kLeastSizes, [&](double least) { return pointSize >= least; });
+    return static_cast<int>(at - kLeastSizes.begin()) + 1;
+}
+
+/// The paragraph without the blanks at its start, unless there is nothing else.
+Range withoutIndentation(const RichText& text, Range paragraph) {
+    const std::size_t blanks = text.string(paragraph).find_first_not_of(u" \t");
+    if (blanks == String::npos) return paragraph;
+    return {paragraph.location + blanks, paragraph.length - blanks};
+}
+
+bool isEmptyLine(const Block& block, Range line) {
+    return block.kind == BlockKind::Paragraph && line.length == 0;
+}
+
+/// Whether `block` goes on with what `last` has begun: lines of code are one.
+bool continues(const Block& last, const Block& block) {
+    return last.kind == BlockKind::Code && block.kind == BlockKind::Code &&
+           last.isQuoted == block.isQuoted && last.isInList == block.isInList;
+}
+
+}  // namespace
+
+BlockClassifier::BlockClassifier(const TextAttributes& base) : base_(base) {}
+
+bool BlockClassifier::isFixedWidth(const Font& font) {
+    const auto [at, isNew] = fixedWidths_.try_emplace(font.familyName);
+    if (isNew) at->second = fonts_.widthOfText(u"ii", font) == fonts_.widthOfText(u"MM", font);
+    return at->second;
+}
+
+bool BlockClassifier::isCode(const TextAttributes& attributes) {
+    const Font* font = attributes.font();
+    const Font* base = base_.font();
+    return font != nullptr && base != nullptr && font->familyName != base->familyName &&
+           attributes.backgroundColor() != nullptr && isFixedWidth(*font);
+}
+
+bool BlockClassifier::isQuoted(const TextAttributes& attributes) const {
+    const ParagraphStyle* style = attributes.paragraphStyle();
+    if (style == nullptr) return false;
+    const ParagraphStyle around =
+        base_.paragraphStyle() == nullptr ? ParagraphStyle() : *base_.paragraphStyle();
+    return style->headIndent > around.headIndent &&
+           style->firstLineHeadIndent > around.firstLineHeadIndent;
+}
+
+Block BlockClassifier::otherBlockOf(const RichText& text, Range paragraph) {
+    bool code = true;
+    bool bold = true;
+    // An empty line is code when its end is.
+    for (const TextRunView run :
+         text.runs({paragraph.location, std::max(paragraph.length, std::size_t{1})})) {
+        const Font* font = run.attributes.font();
+        code = code && isCode(run.attributes);
+        bold = bold && font != nullptr && (font->traits & kFontBold) != 0;
+    }
+    const TextAttributes first = text.attributesAtIndex(paragraph.location);
+    const bool quoted = paragraph.length > 0 && isQuoted(first);
+    if (code) return {.kind = BlockKind::Code, .isQuoted = quoted};
+    if (!bold || paragraph.length == 0 || base_.font() == nullptr ||
+        first.font()->pointSize == base_.font()->pointSize) {
+        return {.isQuoted = quoted};
+    }
+    return {.kind = BlockKind::Heading,
+            .level = levelOfHeading(first.font()->pointSize),
+            .isQuoted = quoted};
+}
+
+/// The block that a paragraph is; the line of an item becomes its text.
+Block BlockClassifier::blockOf(const RichText& text, Range& line) {
+    const auto found = listItemAt(text, line);
+    if (!found) return otherBlockOf(text, line);
+    line = found->text;
+    return {.kind = BlockKind::Item, .item = found->item};
+}
+
+Blocks BlockClassifier::blocksOf(const RichText& text) {
+    Blocks result{paragraphsOf(text.string()), {}};
+    auto& [lines, blocks] = result;
+    bool inList = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        Block block = blockOf(text, lines[i]);
+        const bool endsList = inList && isEmptyLine(block, lines[i]);
+        inList = block.kind == BlockKind::Item || (inList && !endsList);
+        if (endsList && i + 1 < lines.size() && lines[i + 1].length == 0) continue;
+        if (inList && block.kind != BlockKind::Code && block.kind != BlockKind::Item) {
+            lines[i] = withoutIndentation(text, lines[i]);
+        }
+        block.isInList = inList;
+        block.first = i;
+        block.end = i + 1;
+        if (!blocks.empty() && continues(blocks.back(), block)) {
+            blocks.back().end = block.end;
+        } else {
+            blocks.push_back(block);
+        }
+    }
+    return result;
+}
+
+}  // namespace qznote

@@ -1,0 +1,44 @@
+// Items of lists, as rich text shows them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "QZCore/richtext/rich_text.h"
+
+namespace qznote {
+
+/// The bullets of items.
+inline constexpr char16_t kFilledBullet = u'\u25CF';
+inline constexpr char16_t kOpenBullet = u'\u25E6';
+
+/// What distinguishes an item from other paragraphs.
+struct ListItem {
+    /// 1 for the items of the list itself, one more for each item around.
+    std::size_t depth = 1;
+    /// One of the bullets; U+0000 for an item with a number.
+    char16_t bullet = kFilledBullet;
+    /// The number of an item without a bullet.
+    std::uint32_t number = 0;
+
+    /// Whether the item has a number in place of a bullet.
+    [[nodiscard]] bool isNumbered() const { return bullet == u'\0'; }
+
+    /// The bullet, or the number with a full stop.
+    [[nodiscard]] QZCore::String marker() const;
+};
+
+/// An item, and where its text stands behind the marker.
+struct FoundListItem {
+    ListItem item;
+    QZCore::Range text;
+};
+
+/// The item that `paragraph` is: a tab, its marker, a tab and its text, with a
+/// stop where markers end and one where texts start. A paragraph that was only
+/// typed so is none, since it lacks the stops.
+[[nodiscard]] std::optional<FoundListItem> listItemAt(const QZCore::RichText& text,
+                                                      QZCore::Range paragraph);
+
+}  // namespace qznote
