@@ -8,6 +8,13 @@
 #include "tools/qznote/note.h"
 
 namespace QZCore {
+namespace {
+
+std::string rendered(StringView note) {
+    return qznote::ansiText(qznote::renderedNote(note, {}), qznote::baseAttributes({}));
+}
+
+}  // namespace
 
 TEST_CASE("constructs become terminal codes that end with their line") {
     const testing::MadeUpFonts fonts;
@@ -19,19 +26,20 @@ TEST_CASE("constructs become terminal codes that end with their line") {
     const Row rows[] = {
         {"emphasis", u"a **b** *c*\n", "a \x1b[1mb\x1b[0m \x1b[3mc\x1b[0m\n"},
         {"code over two lines", u"```\na\nb\n```\n",
-         "\x1b[38;2;0;0;0;48;2;241;241;241ma\x1b[0m\n\x1b[38;2;0;0;0;48;2;241;241;241mb\x1b[0m\n"},
+         "\x1b[38;2;0;0;0;48;2;241;241;241m\x1b[Ka\x1b[0m\n"
+         "\x1b[38;2;0;0;0;48;2;241;241;241m\x1b[Kb\x1b[0m\n"},
         {"a translucent colour is mixed with paper", u"==a==",
          "\x1b[38;2;0;0;0;48;2;255;255;153ma\x1b[0m\n"},
         {"a link", u"[a](http://a.example)",
          "\x1b[4;38;2;26;115;232m\x1b]8;;http://a.example\x1b\\a\x1b[0m\x1b]8;;\x1b\\\n"},
         {"an image", u"![a b|64x48](x:y)", "[a b 64x48]\n"},
-        {"a quotation is set in", u"> a\n", "   a\n"},
+        {"a quotation has a bar", u"> a\n> *b*\n", "\u2502 a\n\u2502 \x1b[3mb\x1b[0m\n"},
         {"control characters", u"a\x1b[31m\x7F\u009B\u2029\x07",
          "a\u241B[31m\u2421\uFFFD\n\u2407\n"},
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
-        CHECK(qznote::ansiText(qznote::renderedNote(row.note, {})) == row.ansi);
+        CHECK(rendered(row.note) == row.ansi);
     }
 }
 
@@ -39,7 +47,7 @@ TEST_CASE("no note switches anything on beyond its line") {
     const testing::MadeUpFonts fonts;
     testing::RandomTexts texts(u"a*_`=~[](:/)\n\r\x1b ");
     for (int i = 0; i < 2000; ++i) {
-        const std::string ansi = qznote::ansiText(qznote::renderedNote(texts.next(40), {}));
+        const std::string ansi = rendered(texts.next(40));
         std::size_t start = 0;
         while (start < ansi.size()) {
             const std::size_t end = ansi.find('\n', start);

@@ -7,10 +7,13 @@
 
 namespace qznote {
 
-/// `text` with the terminal's codes for bold, italic, underline, strikethrough,
-/// colours and links. Every line ends with all of them switched off. Control
-/// characters of the text are shown as symbols, so that no text can steer the
-/// terminal. Images are named in brackets with their size.
-[[nodiscard]] std::string ansiText(const QZCore::RichText& text);
+/// `text`, most of which has the look of `base`, with the terminal's codes for
+/// bold, italic, underline, strikethrough, colours and links. Items of lists
+/// stand in columns, quotations have a bar along them, and code has its
+/// background up to the edge of the window. Every line ends with all codes
+/// switched off. Control characters of the text are shown as symbols, so that
+/// no text can steer the terminal. Images are named in brackets with their size.
+[[nodiscard]] std::string ansiText(const QZCore::RichText& text,
+                                   const QZCore::TextAttributes& base);
 
 }  // namespace qznote

@@ -34,4 +34,25 @@ String withImagesNamed(StringView text, const TextAttributes& attributes) {
     return named;
 }
 
+String plainText(const RichText& text, Range range) {
+    String plain;
+    for (const TextRunView run : text.runs(range)) {
+        plain += withImagesNamed(text.string(run.range), run.attributes);
+    }
+    return plain;
+}
+
+String withVisibleControls(StringView text) {
+    constexpr char16_t kSymbols = 0x2400;
+    constexpr char16_t kDelete = 0x7F;
+    String visible(text);
+    for (char16_t& unit : visible) {
+        if (unit == u'\t' || !isControl(unit)) continue;
+        unit = unit < u' '       ? static_cast<char16_t>(kSymbols + unit)
+               : unit == kDelete ? u'\u2421'
+                                 : u'\uFFFD';
+    }
+    return visible;
+}
+
 }  // namespace qznote

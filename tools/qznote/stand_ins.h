@@ -3,7 +3,7 @@
 
 #include "QZCore/color.h"
 #include "QZCore/foundation/text.h"
-#include "QZCore/richtext/text_attributes.h"
+#include "QZCore/richtext/rich_text.h"
 
 namespace qznote {
 
@@ -21,6 +21,13 @@ struct ColorBytes {
 /// image in `attributes`.
 [[nodiscard]] QZCore::String withImagesNamed(QZCore::StringView text,
                                              const QZCore::TextAttributes& attributes);
+
+/// The text in `range` with its images named.
+[[nodiscard]] QZCore::String plainText(const QZCore::RichText& text, QZCore::Range range);
+
+/// `text` with control characters other than the tab as the symbols that stand
+/// for them, so that it cannot steer a terminal.
+[[nodiscard]] QZCore::String withVisibleControls(QZCore::StringView text);
 
 /// Whether `unit` is a control character, the tab and line ends included.
 [[nodiscard]] constexpr bool isControl(char16_t unit) {
