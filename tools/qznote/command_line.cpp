@@ -6,6 +6,17 @@
 namespace qznote {
 namespace {
 
+struct ActionName {
+    std::string_view name;
+    Command::Action action;
+};
+
+constexpr ActionName kActions[] = {
+    {"render", Command::Action::Render},
+    {"detect", Command::Action::Detect},
+    {"outline", Command::Action::Outline},
+};
+
 struct FormatName {
     std::string_view name;
     OutputFormat format;
@@ -45,8 +56,9 @@ private:
     /// Whether arguments may follow.
     bool readAction() {
         const std::string_view name = rest_.empty() ? "" : next();
-        if (name == "render" || name == "detect") {
-            command_.action = name == "render" ? Command::Action::Render : Command::Action::Detect;
+        const auto* known = std::ranges::find(kActions, name, &ActionName::name);
+        if (known != std::end(kActions)) {
+            command_.action = known->action;
             return true;
         }
         if (name == "--help" || name == "-h") {
@@ -130,6 +142,7 @@ std::string helpText() {
 
   qznote render [NOTE.md] [--to FORMAT] [-o FILE] [--style SHEET] [--images]
   qznote detect [NOTE.md]
+  qznote outline [NOTE.md]
   qznote --help | --version
 
 A note is UTF-8 text. Without a name, or with "-", the standard input is read.
@@ -148,6 +161,9 @@ render writes the note with its Markdown carried out:
 
 detect tells which constructs the note contains, with how many there are of
 each, and whether all of it is a list, a table or a task outline.
+
+outline prints the items of each list in the note, one a line, indented by two
+blanks a level. The header or the line before a list stands above it.
 
 The exit code is 0, 1 when a file or the output fails, or 2 for a wrong command
 line.

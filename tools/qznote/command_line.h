@@ -13,7 +13,7 @@ enum class OutputFormat { Html, Ansi, Text, Runs };
 
 /// A command with its options.
 struct Command {
-    enum class Action { Render, Detect, ShowHelp, ShowVersion };
+    enum class Action { Render, Detect, Outline, ShowHelp, ShowVersion };
 
     Action action = Action::Render;
     /// The note; "-" is the standard input.

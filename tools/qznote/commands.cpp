@@ -12,7 +12,7 @@
 #include "detection_report.h"
 #include "html_writer.h"
 #include "note.h"
-#include "paragraphs.h"
+#include "outline_report.h"
 #include "runs_writer.h"
 #include "stand_ins.h"
 #include "streams.h"
@@ -69,26 +69,18 @@ String titleOf(const Command& command) {
     return fromUTF8(dot == 0 ? name : name.substr(0, dot));
 }
 
-std::string plainText(const RichText& text) {
-    String plain;
-    for (const TextRunView run : text.runs()) {
-        plain += withImagesNamed(text.string(run.range), run.attributes);
-    }
-    return toUTF8(plain);
-}
-
 std::string written(const RichText& text, const StyleSheet& styles, const Command& command) {
     switch (formatOf(command)) {
         case OutputFormat::Html:
             return htmlPage(text, {.title = titleOf(command), .base = baseAttributes(styles)});
         case OutputFormat::Ansi:
-            return ansiText(text);
+            return ansiText(text, baseAttributes(styles));
         case OutputFormat::Runs:
             return runLines(text);
         case OutputFormat::Text:
             break;
     }
-    return plainText(text);
+    return toUTF8(plainText(text, {0, text.length()}));
 }
 
 int render(const Command& command, const Data& note) {
@@ -105,6 +97,11 @@ int render(const Command& command, const Data& note) {
     return output(command.output, written(text, styles, command));
 }
 
+int outline(const Data& note) {
+    setSharedUrlLoader(makeRefusingUrlLoader());
+    return output("-", outlineReport(renderedNote(noteText(note), {}), baseAttributes({})));
+}
+
 int carryOut(const Command& command) {
     if (command.action == Command::Action::ShowHelp) return output("-", helpText());
     if (command.action == Command::Action::ShowVersion) {
@@ -115,6 +112,7 @@ int carryOut(const Command& command) {
     if (command.action == Command::Action::Detect) {
         return output("-", detectionReport(noteText(*note)));
     }
+    if (command.action == Command::Action::Outline) return outline(*note);
     return render(command, *note);
 }
 
