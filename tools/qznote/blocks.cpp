@@ -18,11 +18,10 @@ int levelOfHeading(double pointSize) {
     return static_cast<int>(at - kLeastSizes.begin()) + 1;
 }
 
-/// The paragraph without the blanks at its start, unless there is nothing else.
-Range withoutIndentation(const RichText& text, Range paragraph) {
-    const std::size_t blanks = text.string(paragraph).find_first_not_of(u" \t");
-    if (blanks == String::npos) return paragraph;
-    return {paragraph.location + blanks, paragraph.length - blanks};
+/// The blanks at the start of a line that has something else too.
+std::size_t indentationOf(const RichText& text, Range line) {
+    const std::size_t blanks = text.string(line).find_first_not_of(u" \t");
+    return blanks == String::npos ? 0 : blanks;
 }
 
 bool isEmptyLine(const Block& block, Range line) {
@@ -95,18 +94,23 @@ Blocks BlockClassifier::blocksOf(const RichText& text) {
     Blocks result{paragraphsOf(text.string()), {}};
     auto& [lines, blocks] = result;
     bool inList = false;
+    std::size_t indentation = 0;  // of the first line of a block in an item
     for (std::size_t i = 0; i < lines.size(); ++i) {
         Block block = blockOf(text, lines[i]);
         const bool endsList = inList && isEmptyLine(block, lines[i]);
         inList = block.kind == BlockKind::Item || (inList && !endsList);
         if (endsList && i + 1 < lines.size() && lines[i + 1].length == 0) continue;
-        if (inList && block.kind != BlockKind::Code && block.kind != BlockKind::Item) {
-            lines[i] = withoutIndentation(text, lines[i]);
-        }
         block.isInList = inList;
         block.first = i;
         block.end = i + 1;
-        if (!blocks.empty() && continues(blocks.back(), block)) {
+        const bool goesOn = !blocks.empty() && continues(blocks.back(), block);
+        if (inList && block.kind != BlockKind::Item) {
+            const std::size_t blanks = indentationOf(text, lines[i]);
+            if (!goesOn) indentation = blanks;
+            const std::size_t cut = std::min(blanks, indentation);
+            lines[i] = {lines[i].location + cut, lines[i].length - cut};
+        }
+        if (goesOn) {
             blocks.back().end = block.end;
         } else {
             blocks.push_back(block);

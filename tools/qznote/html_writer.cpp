@@ -28,6 +28,7 @@ blockquote p, blockquote pre { border-inline-start: 3px solid rgba(128,128,128,0
 pre { padding: 0.75em 1em; border-radius: 6px; }
 code, mark { color: inherit; border-radius: 3px; padding: 0.1em 0.2em; font: inherit; }
 pre code { padding: 0; }
+li pre { margin: 0.4em 0; }
 a { color: inherit; text-decoration: none; }
 img { max-width: 100%; vertical-align: text-bottom; }
 )";

@@ -2,6 +2,8 @@
 
 #include "QZCore/foundation/preferences.h"
 #include "QZCore/markdown/rendering.h"
+#include "fences.h"
+#include "list_indent.h"
 
 namespace qznote {
 namespace {
@@ -14,13 +16,14 @@ TextAttributes plainAttributes() {
     return {{NSFontAttributeName, Value::boxed(FontManager::shared().userFont(kPointSize))}};
 }
 
-Dictionary settings() {
+Dictionary settingsFor(StringView note) {
     constexpr const char16_t* kCodeFonts =
         u"Menlo,DejaVu Sans Mono,Liberation Mono,Noto Sans Mono,Courier New,Mono";
     return {
         {u"Markdown Inline Code Font", kCodeFonts},
         {u"Markdown Code Block Font", kCodeFonts},
         {u"Link Color", u"#1a73e8"},
+        {u"Import List Spaces Per Indent", blanksPerLevel(note)},
     };
 }
 
@@ -47,8 +50,9 @@ TextAttributes baseAttributes(const StyleSheet& styles) {
 }
 
 RichText renderedNote(StringView note, const StyleSheet& styles) {
-    const Preferences preferences(settings());
-    RichText text(note, plainAttributes());
+    const String source = withPlainFences(note);
+    const Preferences preferences(settingsFor(source));
+    RichText text(source, plainAttributes());
     renderContainedMarkdownWithStyles(text, styles, markdownSyntaxFromPreferences(preferences),
                                       preferences);
     return text;

@@ -16,7 +16,8 @@ namespace qznote {
 [[nodiscard]] QZCore::TextAttributes baseAttributes(const QZCore::StyleSheet& styles);
 
 /// The note rendered, with fonts for code and a colour for links that suit this
-/// platform. Images are fetched through the shared loader.
+/// platform. Fences may name a language, and lists may be indented as the note
+/// likes. Images are fetched through the shared loader.
 [[nodiscard]] QZCore::RichText renderedNote(QZCore::StringView note,
                                             const QZCore::StyleSheet& styles);
 
