@@ -53,7 +53,7 @@ TEST_CASE("the example notes render as their files of runs show") {
         CHECK(testing::PageReader::read(page).fault == "");
         ++count;
     }
-    CHECK(count == 7);
+    CHECK(count == 8);
 }
 
 }  // namespace QZCore

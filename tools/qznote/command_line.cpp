@@ -146,6 +146,8 @@ std::string helpText() {
   qznote --help | --version
 
 A note is UTF-8 text. Without a name, or with "-", the standard input is read.
+Lists may be indented by tabs or by 2, 3 or 4 blanks a level, as the note shows,
+and fences around code may name its language.
 
 render writes the note with its Markdown carried out:
   --to FORMAT    html: a page that needs no other file

@@ -38,7 +38,7 @@ String noteText(DataView bytes) {
         const bool endsInFeed = raw[i] == u'\r' && i + 1 < raw.size() && raw[i + 1] == u'\n';
         if (!endsInFeed) text += raw[i] == u'\r' ? u'\n' : raw[i];
     }
-    return text;
+    return withPlainFences(text);
 }
 
 TextAttributes baseAttributes(const StyleSheet& styles) {
@@ -50,9 +50,8 @@ TextAttributes baseAttributes(const StyleSheet& styles) {
 }
 
 RichText renderedNote(StringView note, const StyleSheet& styles) {
-    const String source = withPlainFences(note);
-    const Preferences preferences(settingsFor(source));
-    RichText text(source, plainAttributes());
+    const Preferences preferences(settingsFor(note));
+    RichText text(note, plainAttributes());
     renderContainedMarkdownWithStyles(text, styles, markdownSyntaxFromPreferences(preferences),
                                       preferences);
     return text;

@@ -7,8 +7,9 @@
 
 namespace qznote {
 
-/// The text of a note in UTF-8, with line feeds as its only line ends and
-/// without a byte-order mark.
+/// The text of a note in UTF-8, with line feeds as its only line ends, without a
+/// byte-order mark, and with the fences around its code as the dialect knows
+/// them.
 [[nodiscard]] QZCore::String noteText(QZCore::DataView bytes);
 
 /// The attributes of unmarked text: the user's font and what the style sheet
@@ -16,8 +17,8 @@ namespace qznote {
 [[nodiscard]] QZCore::TextAttributes baseAttributes(const QZCore::StyleSheet& styles);
 
 /// The note rendered, with fonts for code and a colour for links that suit this
-/// platform. Fences may name a language, and lists may be indented as the note
-/// likes. Images are fetched through the shared loader.
+/// platform. Lists may be indented by 2, 3 or 4 blanks a level, as the note
+/// shows. Images are fetched through the shared loader.
 [[nodiscard]] QZCore::RichText renderedNote(QZCore::StringView note,
                                             const QZCore::StyleSheet& styles);
 
