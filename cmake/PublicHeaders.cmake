@@ -1,5 +1,8 @@
 # Every installed header, one by one.
 set(QZCORE_PUBLIC_HEADERS
+  bezier.h
+  bezier/affine_transform.h
+  bezier/cubics.h
   color.h
   color/color.h
   color/named_colors.h
