@@ -2,7 +2,9 @@
 set(QZCORE_PUBLIC_HEADERS
   bezier.h
   bezier/affine_transform.h
+  bezier/bezier_path.h
   bezier/cubics.h
+  bezier/path_elements.h
   color.h
   color/color.h
   color/named_colors.h

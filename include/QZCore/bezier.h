@@ -3,4 +3,5 @@
 #pragma once
 
 #include "QZCore/bezier/affine_transform.h"
+#include "QZCore/bezier/bezier_path.h"
 #include "QZCore/bezier/cubics.h"

@@ -1,0 +1,178 @@
+// BezierPath: ordered elements (move-to, line-to, curve-to, close-path) with a
+// line width, a dash pattern and a winding rule.
+//
+// A path is a value. Copies share long contents until one is changed, and what
+// was measured of a path is kept until it changes, so asking again is cheap. An
+// element before any move-to begins at (0, 0). Lengths and angles are floats,
+// angles in radians from +x towards +y. Different threads may read the same path
+// at once.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "QZCore/bezier/affine_transform.h"
+#include "QZCore/bezier/path_elements.h"
+#include "QZCore/export.h"
+#include "QZCore/foundation/text.h"
+#include "QZCore/geometry/plane.h"
+
+namespace QZCore {
+
+/// Which places count as inside of a path.
+enum class WindingRule : std::uint8_t {
+    NonZero,  // those that the path goes around more often one way than the other
+    EvenOdd,  // those that a ray leaves by an odd number of crossings
+};
+
+/// A path of lines and cubic curves. Empty unless made otherwise.
+class QZ_EXPORT BezierPath final {
+public:
+    // ---- Making ----
+
+    /// A path without elements.
+    BezierPath() = default;
+
+    /// A line from one point to another.
+    [[nodiscard]] static BezierPath bezierPathWithLineFromPoint(Point point, Point toPoint);
+
+    /// Lines through all points in order, not closed; empty without points.
+    [[nodiscard]] static BezierPath bezierPathWithPointsArray(const std::vector<Point>& points);
+
+    /// A rectangle, closed, from its origin along its top edge.
+    [[nodiscard]] static BezierPath bezierPathWithRect(Rect rect);
+
+    /// A rectangle with rounded corners, closed, from the left edge over the top left
+    /// corner along the top edge. The radius is at most half the width and half the
+    /// height; a radius of exactly 0 gives `bezierPathWithRect`.
+    [[nodiscard]] static BezierPath bezierPathWithRoundRectInRect(Rect rect, double radius);
+
+    /// The convex hull of points, closed. Sorts the points as `convexHull` does; of no
+    /// points it is a close-path alone.
+    [[nodiscard]] static BezierPath bezierPathAsConvexHullContainingPoints(Point* points,
+                                                                           std::int32_t count);
+
+    /// The convex hull of the corners of two rectangles, closed.
+    [[nodiscard]] static BezierPath bezierPathAsConvexHullContainingRect(Rect rect1, Rect rect2);
+
+    // ---- Building ----
+
+    /// Starts a subpath.
+    void moveToPoint(Point point);
+    /// Appends a line.
+    void lineToPoint(Point point);
+    /// Appends a cubic curve.
+    void curveToPoint(Point point, Point controlPoint1, Point controlPoint2);
+    /// Appends a line to the start of the subpath.
+    void closePath();
+    /// Appends a line to each point; a move-to to the first one when the path is empty.
+    void appendBezierPathWithPoints(const Point* points, std::size_t count);
+    /// Appends all elements of another path.
+    void appendBezierPath(const BezierPath& path);
+    /// Leaves a path without elements; line width, dash and winding rule stay.
+    void removeAllPoints();
+
+    // ---- Elements ----
+
+    /// Whether there are no elements.
+    [[nodiscard]] bool isEmpty() const { return elements_.count() == 0; }
+    /// The number of elements.
+    [[nodiscard]] std::size_t elementCount() const { return elements_.count(); }
+    /// The type of an element. Its points, up to three, are written to
+    /// `associatedPoints` when that is given. An index without an element gives
+    /// a close-path and writes nothing.
+    PathElementType elementAtIndex(std::size_t index, Point* associatedPoints = nullptr) const;
+    /// Replaces the points of an element, of which there must be as many as it has.
+    /// An index without an element changes nothing.
+    void setAssociatedPoints(const Point* points, std::size_t atIndex);
+    /// Where the last element ends, (0, 0) without elements.
+    [[nodiscard]] Point currentPoint() const;
+    /// The elements as they are stored.
+    [[nodiscard]] const detail::PathElements& elements() const { return elements_; }
+
+    // ---- Drawing attributes ----
+
+    /// The width of the stroke; 1 unless set.
+    [[nodiscard]] double lineWidth() const { return lineWidth_; }
+    /// Sets the width of the stroke.
+    void setLineWidth(double lineWidth) { lineWidth_ = lineWidth; }
+    /// What is inside; non-zero unless set.
+    [[nodiscard]] WindingRule windingRule() const { return windingRule_; }
+    /// Sets what is inside.
+    void setWindingRule(WindingRule windingRule) { windingRule_ = windingRule; }
+    /// The lengths of dashes and gaps, in turn; none for a line without gaps.
+    [[nodiscard]] const std::vector<double>& lineDash() const { return lineDash_; }
+    /// How far into the pattern the stroke begins.
+    [[nodiscard]] double lineDashPhase() const { return lineDashPhase_; }
+    /// Sets pattern and phase.
+    void setLineDash(std::vector<double> pattern, double phase);
+    /// Reads "4,2" or "4,2;1": up to 30 lengths and a phase, in units of the line
+    /// width. A piece that is no number counts as 0, an empty one between two commas
+    /// repeats the number before. Nothing, or exactly "0", changes nothing.
+    void setLineDashFromString(StringView string);
+
+    // ---- Comparison ----
+
+    /// Whether both have the same elements with exactly the same points. How they are
+    /// drawn is not compared. A path always equals itself.
+    [[nodiscard]] bool isEqual(const BezierPath& other) const;
+    /// The same as `isEqual`.
+    friend bool operator==(const BezierPath& a, const BezierPath& b) { return a.isEqual(b); }
+    /// Whether both share the same long contents, or are the same object.
+    [[nodiscard]] bool isIdentical(const BezierPath& other) const;
+    /// The same for equal paths. Of each point only the leading digit of its magnitude
+    /// counts, so that paths which are nearly equal mostly agree as well.
+    [[nodiscard]] std::uint32_t hash() const;
+
+    // ---- Transforms ----
+
+    /// The smallest rectangle around the ends of all elements and the curves between
+    /// them; the zero rectangle without elements. Coordinates that are no numbers
+    /// do not count.
+    [[nodiscard]] Rect bounds() const;
+    /// Applies the transform to every point.
+    void transformUsingAffineTransform(const AffineTransform& transform);
+    /// Rotates about the centre of the bounds, unless the angle is exactly 0.
+    void rotateByRadians(float angle);
+    /// Rotates about a point, unless the angle is exactly 0.
+    void rotateByRadians(float angle, Point aroundCenterPoint);
+    /// Rotates about the centre of the bounds, unless the angle is exactly 0.
+    void rotateByDegrees(float angle);
+    /// Rotates about a point, unless the angle is exactly 0.
+    void rotateByDegrees(float angle, Point aroundCenterPoint);
+    /// Moves every point.
+    void translateXBy(double dx, double yBy);
+    /// Scales every point about (0, 0), not about the path's centre.
+    void scaleBy(double factor);
+    /// Moves level and upright runs to half units, where strokes of one unit cover
+    /// whole pixels. Slanted runs stay.
+    void makeSureAllControlPointsAreNonIntegral();
+
+    // ---- Measurement ----
+
+    /// The length of all elements, a float. Curves are measured to within about 0.1.
+    [[nodiscard]] double length() const;
+    /// The length of the elements before `index`, 0 when there is no such element. The
+    /// length of that element goes to `segmentLength`, when given; 0 if there is none.
+    [[nodiscard]] float lengthToSegment(std::size_t index, float* segmentLength = nullptr) const;
+    /// A path that follows this one for a length; this very path when it is not longer
+    /// than that. Curves are measured, and the last one is cut, to within
+    /// `withMaximumError`. A negative length extends the first line backwards; one
+    /// that is no number trims nothing.
+    [[nodiscard]] BezierPath bezierPathByTrimmingToLength(float length,
+                                                          float withMaximumError = 0.1F) const;
+    /// The point that is reached after a length; the direction there goes to `slope`,
+    /// when given. A path of fewer than two elements gives (0, 0) and no slope; one
+    /// that is cut within its first element gives (0, 0) and the slope 1.
+    [[nodiscard]] Point pointOnPathAtLength(float length, float* slope = nullptr) const;
+
+private:
+    detail::PathElements elements_;
+    std::vector<double> lineDash_;
+    double lineDashPhase_ = 0;
+    double lineWidth_ = 1;
+    WindingRule windingRule_ = WindingRule::NonZero;
+};
+
+}  // namespace QZCore

@@ -1,0 +1,141 @@
+#include "QZCore/bezier/path_elements.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "bezier/path_measures.h"
+
+namespace QZCore::detail {
+
+/// The elements of a long path.
+struct PathElements::Block {
+    Block() = default;
+    Block(const Block& other) : words(other.words), points(other.points) {}
+    Block& operator=(const Block&) = delete;
+    ~Block() { delete measures.load(std::memory_order_relaxed); }
+
+    std::vector<std::uint32_t> words;
+    std::vector<Point> points;
+    mutable std::atomic<const PathMeasures*> measures{nullptr};
+};
+
+PathElements::PathElements(const PathElements& other) { *this = other; }
+
+PathElements::PathElements(PathElements&& other) noexcept { *this = std::move(other); }
+
+PathElements& PathElements::operator=(const PathElements& other) {
+    if (this == &other) return *this;
+    count_ = other.count_;
+    pointCount_ = other.pointCount_;
+    std::ranges::copy(other.inlineWords_, inlineWords_);
+    std::ranges::copy(other.inlinePoints_, inlinePoints_);
+    inlineLength_.store(other.inlineLength_.load(std::memory_order_relaxed),
+                        std::memory_order_relaxed);
+    block_ = other.block_;
+    return *this;
+}
+
+PathElements& PathElements::operator=(PathElements&& other) noexcept {
+    if (this == &other) return *this;
+    std::shared_ptr<Block> block = std::move(other.block_);
+    *this = std::as_const(other);
+    block_ = std::move(block);
+    other.clear();
+    return *this;
+}
+
+PathElements::~PathElements() = default;
+
+const std::uint32_t* PathElements::words() const {
+    return block_ == nullptr ? inlineWords_ : block_->words.data();
+}
+
+const Point* PathElements::points() const {
+    return block_ == nullptr ? inlinePoints_ : block_->points.data();
+}
+
+bool PathElements::isIdentical(const PathElements& other) const {
+    return this == &other || (block_ != nullptr && block_ == other.block_);
+}
+
+void PathElements::append(PathElementType type, const Point* points) {
+    const std::uint32_t added = pointCountOf(type);
+    if (kMostPoints - pointCount_ <= added || count_ == kMostPoints) return;
+    const std::uint32_t word = (pointCount_ << 2) | static_cast<std::uint32_t>(type);
+    if (block_ == nullptr && (count_ == kInlineElements || pointCount_ + added > kInlinePoints)) {
+        moveToBlock();
+    }
+    prepareChange();
+    if (block_ == nullptr) {
+        inlineWords_[count_] = word;
+        std::copy_n(points, added, inlinePoints_ + pointCount_);
+    } else {
+        block_->words.push_back(word);
+        // The points may be ones of this very path, and move.
+        Point copies[3];
+        std::copy_n(points, added, copies);
+        block_->points.insert(block_->points.end(), copies, copies + added);
+    }
+    ++count_;
+    pointCount_ += added;
+}
+
+void PathElements::clear() {
+    block_.reset();
+    count_ = 0;
+    pointCount_ = 0;
+    prepareChange();
+}
+
+Point* PathElements::changeablePoints() {
+    prepareChange();
+    return block_ == nullptr ? inlinePoints_ : block_->points.data();
+}
+
+float PathElements::length() const {
+    if (const PathMeasures* known = measures()) return known->totals.back();
+    float length = inlineLength_.load(std::memory_order_relaxed);
+    if (length >= 0) return length;
+    length = 0;
+    for (const PathStep& step : PathSteps(*this)) length += lengthOfElement(step, kMeasuringError);
+    inlineLength_.store(length, std::memory_order_relaxed);
+    return length;
+}
+
+const PathMeasures* PathElements::knownMeasures() const {
+    return block_ == nullptr ? nullptr : block_->measures.load(std::memory_order_acquire);
+}
+
+const PathMeasures* PathElements::measures() const {
+    if (block_ == nullptr) return nullptr;
+    if (const PathMeasures* known = knownMeasures()) return known;
+    auto measured = std::make_unique<const PathMeasures>(measuresOf(*this));
+    const PathMeasures* first = nullptr;
+    // Another thread may have been faster; both found the same.
+    if (block_->measures.compare_exchange_strong(first, measured.get(),
+                                                 std::memory_order_acq_rel)) {
+        return measured.release();
+    }
+    return first;
+}
+
+/// Before a change: the block becomes this path's own, and nothing is known of
+/// its lengths any more.
+void PathElements::prepareChange() {
+    inlineLength_.store(kUnknownLength, std::memory_order_relaxed);
+    if (block_ == nullptr) return;
+    if (block_.use_count() > 1) {
+        block_ = std::make_shared<Block>(*block_);
+    } else {
+        delete block_->measures.exchange(nullptr, std::memory_order_acq_rel);
+    }
+}
+
+void PathElements::moveToBlock() {
+    auto block = std::make_shared<Block>();
+    block->words.assign(inlineWords_, inlineWords_ + count_);
+    block->points.assign(inlinePoints_, inlinePoints_ + pointCount_);
+    block_ = std::move(block);
+}
+
+}  // namespace QZCore::detail

@@ -1,0 +1,89 @@
+#include "bezier/trimming.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "QZCore/bezier/cubics.h"
+#include "bezier/element_ends.h"
+#include "bezier/path_measures.h"
+
+namespace QZCore {
+namespace {
+
+/// The part of a line that is `remaining` of its `length` long.
+PathPiece cutLine(const PathStep& step, double remaining, double length) {
+    const double t = length == 0 ? 0 : remaining / length;
+    const Point end = step.end();
+    const Point cut{step.current.x + t * (end.x - step.current.x),
+                    step.current.y + t * (end.y - step.current.y)};
+    return {PathElementType::LineTo, {cut}};
+}
+
+/// The part of a curve that is `remaining` long, found by bisection.
+PathPiece cutCurve(const PathStep& step, double remaining, float maxError) {
+    const Point segment[] = {step.current, step.points[0], step.points[1], step.points[2]};
+    Point left[4];
+    float low = 0;
+    float high = 1;
+    for (float t = 0.5F, before = -1; t != before;) {
+        subdivideBezierAtT(segment, left, nullptr, t);
+        const double measured = lengthOfBezier(left, maxError / 2);
+        if (std::abs(remaining - measured) < maxError) break;
+        before = t;
+        if (remaining > measured) {
+            low = t;
+            t = (high + t) / 2;
+        } else if (remaining < measured) {
+            high = t;
+            t = (low + t) / 2;
+        }
+    }
+    return {PathElementType::CurveTo, {left[1], left[2], left[3]}};
+}
+
+PathPiece cutElement(const PathStep& step, double remaining, float length, float maxError) {
+    return step.type == PathElementType::CurveTo ? cutCurve(step, remaining, maxError)
+                                                 : cutLine(step, remaining, length);
+}
+
+/// The cut, where the running totals are known.
+std::optional<PathCut> cutByTotals(const detail::PathElements& elements,
+                                   const detail::PathMeasures& measures, float length) {
+    const auto& totals = measures.totals;
+    auto index =
+        static_cast<std::size_t>(std::ranges::upper_bound(totals, length) - totals.begin());
+    while (index < totals.size() && elements.typeAt(index) == PathElementType::MoveTo) ++index;
+    if (index == totals.size()) return std::nullopt;
+    const float before = index == 0 ? 0 : totals[index - 1];
+    const PathStep step = stepAt(elements, index);
+    const float own = lengthOfElement(step, kMeasuringError);
+    const double remaining = static_cast<double>(length) - before;
+    return PathCut{index, cutElement(step, remaining, own, kMeasuringError)};
+}
+
+}  // namespace
+
+std::optional<PathCut> cutAtLength(const detail::PathElements& elements, float length,
+                                   float maxError) {
+    if (maxError == kMeasuringError) {
+        const detail::PathMeasures* measures = elements.measures();
+        if (measures != nullptr && !std::isnan(measures->totals.back()) && !std::isnan(length)) {
+            return cutByTotals(elements, *measures, length);
+        }
+    }
+    float total = 0;
+    std::size_t index = 0;
+    for (const PathStep& step : PathSteps(elements)) {
+        const float own = lengthOfElement(step, maxError);
+        const float after = total + own;
+        if (step.type != PathElementType::MoveTo && after > length) {
+            const double remaining = static_cast<double>(length) - total;
+            return PathCut{index, cutElement(step, remaining, own, maxError)};
+        }
+        total = after;
+        ++index;
+    }
+    return std::nullopt;
+}
+
+}  // namespace QZCore
