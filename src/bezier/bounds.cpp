@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "QZCore/bezier/bezier_path.h"
 #include "bezier/path_steps.h"
@@ -20,8 +21,8 @@ public:
     [[nodiscard]] double length() const { return low_ <= high_ ? high_ - low_ : 0; }
 
 private:
-    double low_ = INFINITY;
-    double high_ = -INFINITY;
+    double low_ = std::numeric_limits<double>::infinity();
+    double high_ = -std::numeric_limits<double>::infinity();
 };
 
 double valueAt(double p0, double p1, double p2, double p3, double t) {

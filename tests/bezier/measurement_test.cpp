@@ -119,19 +119,16 @@ BezierPath plainlyTrimmed(const BezierPath& path, float length, float maxError) 
 struct End {
     Point point;
     std::optional<float> slope;
-
-    friend bool operator==(const End&, const End&) = default;
 };
 
 End plainEnd(const BezierPath& path, float length) {
     if (path.elementCount() < 2) return {};
-    const std::vector<Piece> all = piecesOf(path);
     if (length <= 0) {
-        Point first;
+        Point first[3];
         Point second[3];
-        path.elementAtIndex(0, &first);
-        if (path.elementAtIndex(1, second) == PathElementType::ClosePath) second[0] = first;
-        return {first, Slope(first, second[0])};
+        path.elementAtIndex(0, first);
+        if (path.elementAtIndex(1, second) == PathElementType::ClosePath) second[0] = first[0];
+        return {first[0], Slope(first[0], second[0])};
     }
     const std::vector<Piece> pieces = piecesOf(plainlyTrimmed(path, length, 0.1F));
     if (pieces.size() < 2) return {{}, 1.0F};
