@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "QZCore/bezier/bezier_path.h"
+#include "bezier/path_bounds.h"
 #include "bezier/path_steps.h"
 
 namespace QZCore {
@@ -49,10 +49,10 @@ void includeTurns(Extent& extent, double p0, double p1, double p2, double p3) {
 
 }  // namespace
 
-Rect BezierPath::bounds() const {
+Rect boundsOf(const detail::PathElements& elements) {
     Extent x;
     Extent y;
-    for (const PathStep& step : PathSteps(elements_)) {
+    for (const PathStep& step : PathSteps(elements)) {
         const Point end = step.end();
         x.include(end.x);
         y.include(end.y);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "bezier/kept.h"
+#include "bezier/path_bounds.h"
 #include "bezier/path_measures.h"
 
 namespace QZCore::detail {
@@ -12,11 +14,12 @@ struct PathElements::Block {
     Block() = default;
     Block(const Block& other) : words(other.words), points(other.points) {}
     Block& operator=(const Block&) = delete;
-    ~Block() { delete measures.load(std::memory_order_relaxed); }
+    ~Block() = default;
 
     std::vector<std::uint32_t> words;
     std::vector<Point> points;
-    mutable std::atomic<const PathMeasures*> measures{nullptr};
+    Kept<PathMeasures> measures;
+    Kept<Rect> bounds;
 };
 
 PathElements::PathElements(const PathElements& other) { *this = other; }
@@ -103,31 +106,29 @@ float PathElements::length() const {
 }
 
 const PathMeasures* PathElements::knownMeasures() const {
-    return block_ == nullptr ? nullptr : block_->measures.load(std::memory_order_acquire);
+    return block_ == nullptr ? nullptr : block_->measures.known();
 }
 
 const PathMeasures* PathElements::measures() const {
     if (block_ == nullptr) return nullptr;
-    if (const PathMeasures* known = knownMeasures()) return known;
-    auto measured = std::make_unique<const PathMeasures>(measuresOf(*this));
-    const PathMeasures* first = nullptr;
-    // Another thread may have been faster; both found the same.
-    if (block_->measures.compare_exchange_strong(first, measured.get(),
-                                                 std::memory_order_acq_rel)) {
-        return measured.release();
-    }
-    return first;
+    return &block_->measures.get([this] { return measuresOf(*this); });
+}
+
+Rect PathElements::bounds() const {
+    if (block_ == nullptr) return boundsOf(*this);
+    return block_->bounds.get([this] { return boundsOf(*this); });
 }
 
 /// Before a change: the block becomes this path's own, and nothing is known of
-/// its lengths any more.
+/// its elements any more.
 void PathElements::prepareChange() {
     inlineLength_.store(kUnknownLength, std::memory_order_relaxed);
     if (block_ == nullptr) return;
     if (block_.use_count() > 1) {
         block_ = std::make_shared<Block>(*block_);
     } else {
-        delete block_->measures.exchange(nullptr, std::memory_order_acq_rel);
+        block_->measures.forget();
+        block_->bounds.forget();
     }
 }
 

@@ -241,7 +241,11 @@ TEST_CASE("every change of a path is measured anew") {
     testing::RandomPlane random(9);
     for (const int count : {3, 40}) {
         BezierPath path = testing::randomPath(random, count);
-        const auto isMeasured = [&] { return path.length() == plainLength(piecesOf(path)); };
+        const auto isMeasured = [&] {
+            BezierPath anew;
+            for (const Piece& piece : piecesOf(path)) append(anew, piece);
+            return path.length() == plainLength(piecesOf(path)) && path.bounds() == anew.bounds();
+        };
         CHECK(isMeasured());
         path.scaleBy(2);
         CHECK(isMeasured());

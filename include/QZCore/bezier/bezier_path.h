@@ -130,7 +130,7 @@ public:
     /// The smallest rectangle around the ends of all elements and the curves between
     /// them; the zero rectangle without elements. Coordinates that are no numbers
     /// do not count.
-    [[nodiscard]] Rect bounds() const;
+    [[nodiscard]] Rect bounds() const { return elements_.bounds(); }
     /// Applies the transform to every point.
     void transformUsingAffineTransform(const AffineTransform& transform);
     /// Rotates about the centre of the bounds, unless the angle is exactly 0.

@@ -71,6 +71,8 @@ public:
     [[nodiscard]] const PathMeasures* measures() const;
     /// The same where they have been measured already; else null.
     [[nodiscard]] const PathMeasures* knownMeasures() const;
+    /// The smallest rectangle around all, which long paths keep.
+    [[nodiscard]] Rect bounds() const;
 
 private:
     struct Block;
