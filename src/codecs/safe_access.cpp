@@ -1,12 +1,11 @@
 // The safe operations on arrays. Each logs where its own caller goes on, so
 // each asks for that address itself.
 
-#include <cstdint>
-#include <iterator>
 #include <utility>
 
 #include "QZCore/codecs/arrays.h"
 #include "codecs/misuse_log.h"
+#include "codecs/safe_insertion.h"
 
 namespace QZCore {
 namespace {
@@ -15,11 +14,17 @@ String mistakenCall(const String& call, std::size_t count) {
     return u"Attempting to call " + call + u" with count:" + unsignedString(count);
 }
 
-/// Whether `object` can be inserted into an array of `count` elements. Logs
-/// when it cannot.
-bool canInsert(const Value& object, std::size_t index, std::size_t count,
-               const void* returnAddress) {
-    if (object.isAbsent()) {
+bool isPresent(const Value& object) { return !object.isAbsent(); }
+
+Array::iterator elementAt(Array& array, std::size_t index) {
+    return array.begin() + static_cast<std::ptrdiff_t>(index);
+}
+
+}  // namespace
+
+bool canInsertObject(bool isObject, std::size_t index, std::size_t count,
+                     const void* returnAddress) {
+    if (!isObject) {
         logMisuse(u"Attempting to call insertObject:atIndex with a nil object", returnAddress);
         return false;
     }
@@ -27,12 +32,6 @@ bool canInsert(const Value& object, std::size_t index, std::size_t count,
     logMisuse(mistakenCall(u"insertObject:atIndex:" + unsignedString(index), count), returnAddress);
     return false;
 }
-
-Array::iterator elementAt(Array& array, std::size_t index) {
-    return array.begin() + static_cast<std::ptrdiff_t>(index);
-}
-
-}  // namespace
 
 Value safeObjectAtIndex(const Array& array, std::size_t index) {
     if (index < array.size()) return array[index];
@@ -42,7 +41,8 @@ Value safeObjectAtIndex(const Array& array, std::size_t index) {
 }
 
 void safeInsertObject(Array& array, Value object, std::size_t atIndex) {
-    if (!canInsert(object, atIndex, array.size(), __builtin_return_address(0))) return;
+    if (!canInsertObject(isPresent(object), atIndex, array.size(), __builtin_return_address(0)))
+        return;
     array.insert(elementAt(array, atIndex), std::move(object));
 }
 
@@ -80,22 +80,7 @@ void safeExchangeObjectAtIndex(Array& array, std::size_t index, std::size_t with
 }
 
 void insertObjectsFromArray(Array& array, Array objects, std::size_t atIndex) {
-    Array inserted;
-    inserted.reserve(array.size() + objects.size());
-    // Indexes only grow, so what lies before one stays where it is.
-    auto rest = array.begin();
-    for (Value& object : objects) {
-        while (inserted.size() < atIndex && rest != array.end()) {
-            inserted.push_back(std::move(*rest++));
-        }
-        const auto left = static_cast<std::size_t>(array.end() - rest);
-        if (canInsert(object, atIndex, inserted.size() + left, __builtin_return_address(0))) {
-            inserted.push_back(std::move(object));
-        }
-        if (atIndex < SIZE_MAX) ++atIndex;
-    }
-    std::move(rest, array.end(), std::back_inserter(inserted));
-    array = std::move(inserted);
+    insertOneByOne(array, std::move(objects), atIndex, isPresent, __builtin_return_address(0));
 }
 
 Array arrayByRemovingObjectsInRange(const Array& array, Range range) {
@@ -112,7 +97,9 @@ Array arrayByRemovingObjectsInRange(const Array& array, Range range) {
 }
 
 void push(Array& array, Value object) {
-    if (!canInsert(object, array.size(), array.size(), __builtin_return_address(0))) return;
+    if (!canInsertObject(isPresent(object), array.size(), array.size(),
+                         __builtin_return_address(0)))
+        return;
     array.push_back(std::move(object));
 }
 

@@ -8,8 +8,6 @@ namespace QZCore {
 namespace {
 
 constexpr StringView kListStyleName = u"-";
-constexpr double kDefaultFontSize = 12;
-
 /// The paragraph style that all items start from.
 ParagraphStyle baseStyle(const StyleSheet& styles, const Preferences& preferences,
                          const TextAttributes& prefix, const Font& font) {
@@ -42,7 +40,7 @@ String widestNumber(std::size_t siblings) { return String(siblings / 10, u'9') +
 ListLook::ListLook(const StyleSheet& styles, const Preferences& preferences,
                    const TextAttributes& prefix, bool indentsFirstLevel)
     : fonts_(FontManager::shared()),
-      font_(prefix.font() == nullptr ? fonts_.userFont(kDefaultFontSize) : *prefix.font()),
+      font_(prefix.font() == nullptr ? fonts_.userFont(kFontDefaultSize) : *prefix.font()),
       base_(baseStyle(styles, preferences, prefix, font_)),
       alternatesDiscs_(preferences.boolForKey(u"Markdown Inline Lists Alternate Discs", true)),
       levelsLess_(indentsFirstLevel ? 0 : 1),

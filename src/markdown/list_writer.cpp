@@ -8,11 +8,9 @@
 namespace QZCore {
 namespace {
 
-constexpr double kDefaultFontSize = 12;
-
 TextAttributes lineFeedAttributes() {
     return {
-        {attributeNames().font, Value::boxed(FontManager::shared().userFont(kDefaultFontSize))}};
+        {attributeNames().font, Value::boxed(FontManager::shared().userFont(kFontDefaultSize))}};
 }
 
 }  // namespace

@@ -12,8 +12,6 @@
 namespace QZCore {
 namespace {
 
-bool isRenderable(std::size_t length) { return length > 0 && length < kFlatTextLimit; }
-
 /// Joins wrapped lines and returns the plain text.
 String joinWrappedLines(RichText& text) {
     const String before = text.string();
@@ -53,7 +51,7 @@ public:
         const String format = pair->key().stringValue();
         const RichText* value = pair->value().boxedValue<RichText>();
         const std::size_t length = value == nullptr ? 0 : value->length();
-        if (!isRenderable(out_.text().size() + length + 1)) return false;
+        if (!hasFlatForm(out_.text().size() + length + 1)) return false;
         FlatText text;
         if (length > 0) {
             text = FlatTextAccess::flattened(*value, {0, length}, std::move(palette_));
@@ -115,7 +113,7 @@ RichText richTextListFromMarkdown(const RichText& markdown, bool hasTitle,
                                   const StyleSheet& withStyles, const MarkdownSyntax& syntax,
                                   const Preferences& preferences) {
     const MarkdownExpression* listLine = syntax.expressionForKey(kMarkdownListLine);
-    if (listLine == nullptr || !isRenderable(markdown.length())) return markdown;
+    if (listLine == nullptr || !hasFlatForm(markdown.length())) return markdown;
     FlatText flat = FlatTextAccess::flattened(markdown, {0, markdown.length()});
     FlatWriter out;
     ListRenderer renderer({withStyles, preferences, *listLine}, flat.palette);
@@ -157,7 +155,7 @@ std::shared_ptr<QZTreeNode> listOutlineFromMarkdown(const RichText& markdown,
                                                     const Preferences& preferences) {
     auto root = QZTreeNode::treeNodeWithData({});
     const MarkdownExpression* listLine = syntax.expressionForKey(kMarkdownListLine);
-    if (listLine == nullptr || !isRenderable(markdown.length())) return root;
+    if (listLine == nullptr || !hasFlatForm(markdown.length())) return root;
     RichText text = markdown;
     const String list = joinWrappedLines(text);
     ListLineReader reader(*listLine, preferences);

@@ -16,8 +16,6 @@
 namespace QZCore {
 namespace {
 
-constexpr double kDefaultFontSize = 12;
-
 struct PassRow {
     StringView key;
     Pass (*make)(RenderingContext& context);
@@ -61,7 +59,7 @@ public:
                  const Preferences& preferences)
         : syntax_(syntax),
           catalog_(sharedFontCatalog()),
-          context_{text_, styles, preferences, catalog_->userFont(kDefaultFontSize)},
+          context_{text_, styles, preferences, catalog_->userFont(kFontDefaultSize)},
           body_(bodyStyle(context_, note.firstAttributes())),
           fixing_(*catalog_) {}
 
@@ -156,14 +154,12 @@ void render(const NoteSource& note, const StyleSheet& styles, const MarkdownSynt
     FlatTextAccess::replaceContents(text, std::move(parts), std::move(palette));
 }
 
-bool isRenderable(std::size_t length) { return length > 0 && length < kFlatTextLimit; }
-
 }  // namespace
 
 void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles,
                                        const MarkdownSyntax& syntax, const Preferences& preferences,
                                        std::size_t partLength) {
-    if (!isRenderable(text.length())) return;
+    if (!hasFlatForm(text.length())) return;
     render(RichNote(text), styles, syntax, preferences, partLength, text);
 }
 
@@ -180,7 +176,7 @@ void renderContainedMarkdownWithStyles(RichText& text, const StyleSheet& styles)
 void renderContainedMarkdown(RichText& text) { renderContainedMarkdownWithStyles(text, {}); }
 
 RichText attributedStringWithMarkdown(StringView string, const TextAttributes& attributes) {
-    if (!isRenderable(string.size())) return RichText(string, attributes);
+    if (!hasFlatForm(string.size())) return RichText(string, attributes);
     RichText text;
     render(PlainNote(string, attributes), {}, allMarkdownRegex(), Preferences::shared(),
            kNotePartLength, text);

@@ -2,52 +2,20 @@
 // last, when the tree is in order: what they own may look at it.
 
 #include <algorithm>
-#include <cstdint>
 #include <iterator>
 #include <utility>
 
 #include "QZCore/model/tree_node.h"
-#include "codecs/misuse_log.h"
+#include "codecs/safe_insertion.h"
 #include "model/identity_table.h"
 
 namespace QZCore {
 namespace {
 
-/// Whether `child` can be inserted into a list of `count`. Logs when it cannot.
-bool canInsert(const std::shared_ptr<QZTreeNode>& child, std::size_t index, std::size_t count,
-               const void* returnAddress) {
-    if (child == nullptr) {
-        logMisuse(u"Attempting to call insertObject:atIndex with a nil object", returnAddress);
-        return false;
-    }
-    if (index <= count) return true;
-    logMisuse(u"Attempting to call insertObject:atIndex:" + unsignedString(index) +
-                  u" with count:" + unsignedString(count),
-              returnAddress);
-    return false;
-}
+bool isNode(const std::shared_ptr<QZTreeNode>& child) { return child != nullptr; }
 
 QZTreeNodes::iterator childAt(QZTreeNodes& children, std::size_t index) {
     return children.begin() + static_cast<std::ptrdiff_t>(index);
-}
-
-/// What inserting the nodes one by one at `index` and the indexes that follow
-/// makes of the list.
-void insertOneByOne(QZTreeNodes& list, QZTreeNodes nodes, std::size_t index,
-                    const void* returnAddress) {
-    QZTreeNodes inserted;
-    inserted.reserve(list.size() + nodes.size());
-    auto rest = list.begin();  // what lies before an index stays there, for indexes only grow
-    for (auto& node : nodes) {
-        while (inserted.size() < index && rest != list.end()) {
-            inserted.push_back(std::move(*rest++));
-        }
-        const std::size_t count = inserted.size() + static_cast<std::size_t>(list.end() - rest);
-        if (canInsert(node, index, count, returnAddress)) inserted.push_back(std::move(node));
-        if (index < SIZE_MAX) ++index;
-    }
-    std::move(rest, list.end(), std::back_inserter(inserted));
-    list = std::move(inserted);
 }
 
 }  // namespace
@@ -65,7 +33,8 @@ void QZTreeNode::addChildren(QZTreeNodes children) {
 void QZTreeNode::insertChild(std::shared_ptr<QZTreeNode> child, std::size_t atIndex) {
     if (child != nullptr) child->parent_ = weak_from_this();
     if (!hasList()) return;
-    if (!canInsert(child, atIndex, numberOfChildren(), __builtin_return_address(0))) return;
+    if (!canInsertObject(isNode(child), atIndex, numberOfChildren(), __builtin_return_address(0)))
+        return;
     QZTreeNodes& list = changeableChildren();
     list.insert(childAt(list, atIndex), std::move(child));
 }
@@ -85,7 +54,7 @@ void QZTreeNode::insertChildren(QZTreeNodes children, std::size_t atIndex) {
         list.insert(childAt(list, atIndex), std::make_move_iterator(children.begin()),
                     std::make_move_iterator(children.end()));
     } else {
-        insertOneByOne(list, std::move(children), atIndex, __builtin_return_address(0));
+        insertOneByOne(list, std::move(children), atIndex, isNode, __builtin_return_address(0));
     }
 }
 

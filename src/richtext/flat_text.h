@@ -30,6 +30,11 @@ struct FlatText {
 /// fit 32-bit positions.
 inline constexpr std::size_t kFlatTextLimit = UINT32_MAX;
 
+/// Whether a text of that length is not empty and has a flat form.
+[[nodiscard]] constexpr bool hasFlatForm(std::size_t length) {
+    return length > 0 && length < kFlatTextLimit;
+}
+
 /// The way between both forms.
 struct FlatTextAccess {
     /// The part of `text` in `range`, which must be shorter than the limit. Its
