@@ -16,6 +16,7 @@ set(QZCORE_PUBLIC_HEADERS
   codecs/deep_copies.h
   codecs/dictionaries.h
   codecs/file_names.h
+  codecs/formatting.h
   codecs/parsing.h
   codecs/property_list_data.h
   codecs/transforming.h

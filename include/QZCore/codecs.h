@@ -15,6 +15,7 @@
 #include "QZCore/codecs/deep_copies.h"
 #include "QZCore/codecs/dictionaries.h"
 #include "QZCore/codecs/file_names.h"
+#include "QZCore/codecs/formatting.h"
 #include "QZCore/codecs/parsing.h"
 #include "QZCore/codecs/property_list_data.h"
 #include "QZCore/codecs/transforming.h"
