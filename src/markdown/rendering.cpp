@@ -131,7 +131,7 @@ public:
     std::size_t length() const override { return text_.size(); }
     TextAttributes firstAttributes() const override { return attributes_; }
     FlatText part(Range range, AttributePalette palette) const override {
-        FlatText flat{String(text_.substr(range.location, range.length)), {}, std::move(palette)};
+        FlatText flat{{{}, std::move(palette)}, String(text_.substr(range.location, range.length))};
         const std::uint32_t id = flat.palette.idOf(attributes_);
         appendRun(flat.runs, static_cast<std::uint32_t>(flat.text.size()), id);
         return flat;

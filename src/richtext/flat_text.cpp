@@ -7,10 +7,14 @@
 namespace QZCore {
 
 FlatText FlatTextAccess::flattened(const RichText& text, Range range, AttributePalette palette) {
-    FlatText flat;
+    return {flattenedRuns(text, range, std::move(palette)), text.string(range)};
+}
+
+FlatRuns FlatTextAccess::flattenedRuns(const RichText& text, Range range,
+                                       AttributePalette palette) {
+    FlatRuns flat;
     flat.palette = std::move(palette);
     range = clampedRange(range, text.length());
-    flat.text = text.string(range);
     if (range.length == 0) return flat;
     const RichText::Store& store = *text.store_;
     NumberMap numbers;  // only sets that the range uses get a number
@@ -30,6 +34,13 @@ FlatText FlatTextAccess::flattened(const RichText& text, Range range, AttributeP
         place.pieceStart += piece.length();
     }
     return flat;
+}
+
+void FlatTextAccess::replaceRuns(RichText& text, std::size_t location, const FlatRuns& runs) {
+    if (runs.runs.empty()) return;
+    const std::size_t length = runs.runs.back().end;
+    text.noteEdit({location, length}, length);
+    text.changeableStore().setAttributes(location, runs);
 }
 
 void FlatTextAccess::replaceContents(RichText& text, std::vector<FlatText> parts,

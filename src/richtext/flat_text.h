@@ -19,11 +19,15 @@ struct FlatRun {
     friend bool operator==(const FlatRun&, const FlatRun&) = default;
 };
 
-/// Text, runs that partition it, and the numbered attribute sets.
-struct FlatText {
-    String text;
+/// Runs that partition a stretch of text, and the numbered attribute sets.
+struct FlatRuns {
     std::vector<FlatRun> runs;
     AttributePalette palette;
+};
+
+/// Text with its runs.
+struct FlatText : FlatRuns {
+    String text;
 };
 
 /// Texts of this many units and more have no flat form; their runs would not
@@ -41,6 +45,12 @@ struct FlatTextAccess {
     /// sets are added to `palette`.
     [[nodiscard]] static FlatText flattened(const RichText& text, Range range,
                                             AttributePalette palette = {});
+    /// The runs alone of that part.
+    [[nodiscard]] static FlatRuns flattenedRuns(const RichText& text, Range range,
+                                                AttributePalette palette = {});
+    /// Gives the units from `location` on the attributes of `runs`, which must
+    /// end within the text, as one edit.
+    static void replaceRuns(RichText& text, std::size_t location, const FlatRuns& runs);
     /// Replaces the whole contents of `text` by `parts`, all numbered by
     /// `palette`, as one edit.
     static void replaceContents(RichText& text, std::vector<FlatText> parts,

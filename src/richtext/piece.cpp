@@ -60,6 +60,16 @@ void Piece::erase(std::size_t from, std::size_t to) {
     mergeEqual(first == 0 ? 0 : first - 1, first + 1);
 }
 
+void Piece::replaceRuns(std::size_t from, std::size_t to, const std::vector<PieceRun>& runs) {
+    const std::size_t first = divideAt(from);
+    const std::size_t last = divideAt(to);
+    const auto begin = runs_.begin() + static_cast<std::ptrdiff_t>(first);
+    const auto end = runs_.begin() + static_cast<std::ptrdiff_t>(last);
+    const auto after = runs_.erase(begin, end);
+    runs_.insert(after, runs.begin(), runs.end());
+    mergeEqual(first == 0 ? 0 : first - 1, first + runs.size() + 1);
+}
+
 /// Makes a run start at `offset` and returns its index; at the end of the text
 /// the number of runs.
 std::size_t Piece::divideAt(std::size_t offset) {

@@ -66,6 +66,9 @@ public:
         mergeEqual(first == 0 ? 0 : first - 1, last + 1);
     }
 
+    /// Replaces the runs within [from, to) by `runs`, which start at `from`.
+    void replaceRuns(std::size_t from, std::size_t to, const std::vector<PieceRun>& runs);
+
 private:
     std::size_t divideAt(std::size_t offset);
     void mergeEqual(std::size_t first, std::size_t last);

@@ -197,31 +197,23 @@ void RichText::deleteCharactersInRange(Range range) { replaceCharactersInRange(r
 // ---- Changing attributes ----
 
 void RichText::setAttributes(const TextAttributes& attributes, Range range) {
-    range = clampedRange(range, length());
-    noteEdit(range, range.length);
-    changeableStore().changeAttributes(range, [&](const TextAttributes&) { return attributes; });
+    changeAttributes(range, [&](const TextAttributes&) { return attributes; });
 }
 
 void RichText::addAttribute(StringView name, const Value& value, Range range) {
-    range = clampedRange(range, length());
-    noteEdit(range, range.length);
     const AttributeName changed = name;
-    changeableStore().changeAttributes(
+    changeAttributes(
         range, [&](const TextAttributes& before) { return before.withAttribute(changed, value); });
 }
 
 void RichText::addAttributes(const TextAttributes& attributes, Range range) {
-    range = clampedRange(range, length());
-    noteEdit(range, range.length);
-    changeableStore().changeAttributes(
-        range, [&](const TextAttributes& before) { return before.mergedWith(attributes); });
+    changeAttributes(range,
+                     [&](const TextAttributes& before) { return before.mergedWith(attributes); });
 }
 
 void RichText::removeAttribute(StringView name, Range range) {
-    range = clampedRange(range, length());
-    noteEdit(range, range.length);
-    changeableStore().changeAttributes(
-        range, [&](const TextAttributes& before) { return before.withoutAttribute(name); });
+    changeAttributes(range,
+                     [&](const TextAttributes& before) { return before.withoutAttribute(name); });
 }
 
 // ---- Editing in batches ----

@@ -54,12 +54,7 @@ void RichText::fixAttributesInRange(Range range) {
     AttributeFixing(*catalog).fixAttributes(fixed);
     if (fixed.runs == before.runs) return;
     const int depth = std::exchange(editingDepth_, 0);  // no edit to fix again
-    std::size_t at = start;
-    for (const FlatRun& run : fixed.runs) {
-        const std::size_t runEnd = start + run.end;
-        setAttributes(fixed.palette.at(run.id), {at, runEnd - at});
-        at = runEnd;
-    }
+    FlatTextAccess::replaceRuns(*this, start, fixed);
     editingDepth_ = depth;
 }
 

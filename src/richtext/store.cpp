@@ -103,6 +103,32 @@ void RichText::Store::replace(Range range, const Store& other, Range otherRange)
     splice(range.location, addition);
 }
 
+void RichText::Store::setAttributes(std::size_t location, const FlatRuns& runs) {
+    collectAttributes();
+    NumberMap numbers;
+    const auto number = [&](std::uint32_t id) {
+        return numbers(id,
+                       [&](std::uint32_t other) { return palette_.idOf(runs.palette.at(other)); });
+    };
+    std::vector<PieceRun> pieceRuns;
+    Place place = placeOf(location);
+    std::size_t at = location;
+    const std::size_t end = location + runs.runs.back().end;
+    for (auto run = runs.runs.begin(); at < end;) {
+        const std::size_t from = at - place.pieceStart;
+        const std::size_t pieceEnd = place.pieceStart + lengths_[place.piece];
+        const std::size_t stop = std::min(pieceEnd, end);
+        for (pieceRuns.clear(); at < stop;) {
+            const auto start = static_cast<std::uint32_t>(at - place.pieceStart);
+            pieceRuns.push_back({start, number(run->id)});
+            at = std::min(location + run->end, stop);
+            if (at == location + run->end) ++run;
+        }
+        changeablePiece(place.piece).replaceRuns(from, stop - place.pieceStart, pieceRuns);
+        place = {place.piece + 1, pieceEnd};
+    }
+}
+
 Piece& RichText::Store::changeablePiece(std::size_t index) {
     std::shared_ptr<Piece>& piece = pieces_[index];
     if (piece.use_count() > 1) piece = std::make_shared<Piece>(*piece);

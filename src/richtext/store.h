@@ -60,6 +60,9 @@ public:
     /// gives for them; `change` is asked once for each different set.
     template <class Change>
     void changeAttributes(Range range, Change change);
+    /// Replaces the attributes of the units from `location` on by those of
+    /// `runs`.
+    void setAttributes(std::size_t location, const FlatRuns& runs);
 
 private:
     // Lengths are summed up for so many pieces at a time.
@@ -104,6 +107,13 @@ void RichText::Store::changeAttributes(Range range, Change change) {
         at = place.pieceStart + to;
         place.pieceStart += piece.length();
     }
+}
+
+template <class Change>
+void RichText::changeAttributes(Range range, Change change) {
+    range = clampedRange(range, length());
+    noteEdit(range, range.length);
+    changeableStore().changeAttributes(range, change);
 }
 
 }  // namespace QZCore

@@ -12,12 +12,17 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <initializer_list>
 #include <memory>
+#include <optional>
 #include <vector>
 
+#include "QZCore/color/color.h"
 #include "QZCore/export.h"
 #include "QZCore/foundation/range.h"
 #include "QZCore/foundation/text.h"
+#include "QZCore/foundation/value.h"
 #include "QZCore/richtext/text_attributes.h"
 
 namespace QZCore {
@@ -120,6 +125,119 @@ public:
     /// Removes one attribute in `range`.
     void removeAttribute(StringView name, Range range);
 
+    // ---- Asking about the whole text ----
+
+    /// What the text has in common, without the look of links and the font of
+    /// colour emoji; nothing for an empty text. To be shown as its style.
+    ///
+    /// A text of one run gives the attributes of that run with the font's
+    /// family under `NSFontFamilyAttribute`, its size under "fontSize", and
+    /// black for no colour or the default colour of text. Any other text gives:
+    /// - the font, when all runs have it; else one of the same family, size,
+    ///   traits and weight as far as all runs agree (regular where they do
+    ///   not), or only the size under "fontSize" when the families differ;
+    /// - the foreground colour of all runs, else the one of more than half of
+    ///   the characters, else the one of the fewest. Deliberately the fewest:
+    ///   a change then keeps the rare colours apart from the others.
+    /// - background colour, underline and strikethrough that all runs have;
+    /// - the paragraph style of all runs, else one with the alignment and the
+    ///   line height that all runs share, if any.
+    [[nodiscard]] std::optional<TextAttributes> commonAttributes() const;
+
+    /// Whether some font in `range` belongs to a family that can have `trait`,
+    /// as `FontManager::canFont` tells. An empty range asks about the font at
+    /// its location. False for a location at or beyond the end.
+    [[nodiscard]] bool canApplyTrait(std::uint32_t trait, Range range) const;
+    /// The same for the whole text.
+    [[nodiscard]] bool canApplyTrait(std::uint32_t trait) const;
+
+    /// Whether the fonts in `range` have `trait`. Only those count whose family
+    /// can have it. One that lacks the trait makes the answer false only when
+    /// it stands behind one that has it: "plain, bold" has the bold trait,
+    /// "bold, plain" has not. Deliberate: toggling a trait relies on it. An
+    /// empty range asks about the font at its location. False for a location
+    /// at or beyond the end.
+    [[nodiscard]] bool doesHaveTrait(std::uint32_t trait, Range range) const;
+    /// The same for the whole text.
+    [[nodiscard]] bool doesHaveTrait(std::uint32_t trait) const;
+
+    /// Whether all fonts, colour emoji left out, have one family and one size.
+    [[nodiscard]] bool hasSameFontAndSize() const;
+    /// Whether all foreground colours print as one string, links and colour
+    /// emoji left out. No colour and the default colour of text are black.
+    [[nodiscard]] bool hasSameTextColor() const;
+    /// Whether any part is a link.
+    [[nodiscard]] bool containsLinks() const;
+    /// The link of which the whole text is a part; absent when there is none.
+    [[nodiscard]] Value urlLink() const;
+    /// Whether any part has the font of colour emoji.
+    [[nodiscard]] bool containsAppleColorEmoji() const;
+    /// Whether any paragraph stands in a text block or in a list.
+    [[nodiscard]] bool containsTextBlocksOrLists() const;
+    /// Whether any paragraph has a writing direction of its own, or any part
+    /// an embedded one.
+    [[nodiscard]] bool containsWritingDirection() const;
+    /// How many `kAttachmentCharacter`s the text has.
+    [[nodiscard]] std::size_t numberOfAttachments() const;
+
+    // ---- Links ----
+
+    /// `string` as a link to `withURL`, in `withColor` when that is given and
+    /// not the clear colour, underlined or with the underline style 0.
+    [[nodiscard]] static RichText hyperlinkFromString(StringView string, const Value& withURL,
+                                                      const std::optional<Color>& withColor,
+                                                      bool underline);
+    /// Appends such a link.
+    void appendLinkedString(StringView string, const Value& withURL,
+                            const std::optional<Color>& withColor, bool underline);
+    /// Shows every link in `withColor`; without one, or with the clear colour,
+    /// links keep their colour and lose the colour of their underline. Sets
+    /// the underline style of every link to 1 or 0.
+    void addFormattingForLinks(const std::optional<Color>& withColor, bool underline);
+    /// A copy with links formatted in that way.
+    [[nodiscard]] RichText stringByAddingFormattingForLinks(const std::optional<Color>& withColor,
+                                                            bool underline) const;
+    /// Takes every link away and gives its text the foreground colour and the
+    /// underline style of what stands before it, or at the start of the text
+    /// of what stands behind it, unless that is the last character or nothing.
+    /// The three flags are not consulted: all three are always removed.
+    void removeFormattingForLinks(bool includingColor, bool underline, bool linkAttribute);
+
+    // ---- Small changes ----
+
+    /// Gives text whose foreground colour prints like `color` another one, or
+    /// none. Nothing happens when both print alike.
+    void replaceTextForegroundColor(const Color& color, const std::optional<Color>& withColor);
+    /// Deletes every `kAttachmentCharacter`.
+    void removeAttachments();
+    /// Gives text in the font of colour emoji the font of what stands beside
+    /// it, found as for links, or no font.
+    void removeAppleColorEmoji();
+    /// Appends text without attributes.
+    void appendString(StringView string);
+    /// Appends what `stringWithFormat` makes, without attributes.
+    void appendFormat(StringView format, std::initializer_list<Value> arguments);
+    /// Removes the white space at the start; that at the end stays, as
+    /// `trimWhitespace` of strings has it.
+    void trimWhitespace();
+
+    /// Restyles `toRange` and keeps what deviates in it on purpose. Where the
+    /// range has one value of an attribute, or none, it takes the given one.
+    /// Where it has several:
+    /// - fonts are replaced, and each run keeps its bold and italic;
+    /// - underline, strikethrough and baseline offset stay;
+    /// - a run keeps its colour when the whole text has another in common, and
+    ///   likewise its paragraph style;
+    /// - other attributes are replaced.
+    ///
+    /// A number under "fontSize" changes the size of each font only, after the
+    /// fonts. Without a background among the attributes, one that all of the
+    /// text has is removed from the range. Then the attributes are fixed.
+    /// Nothing happens without attributes or in an empty range.
+    void applyFontAttributes(const TextAttributes& attributes, Range toRange);
+    /// Restyles the whole text.
+    void applyFontAttributes(const TextAttributes& attributes);
+
     // ---- Editing in batches ----
 
     /// Opens a batch of edits. Batches nest.
@@ -149,6 +267,8 @@ private:
     friend struct FlatTextAccess;
 
     Store& changeableStore();
+    template <class Change>
+    void changeAttributes(Range range, Change change);
     void noteEdit(Range range, std::size_t newLength);
 
     std::shared_ptr<Store> store_;

@@ -1,0 +1,70 @@
+#include <algorithm>
+
+#include "QZCore/richtext/rich_text.h"
+#include "richtext/attribute_names.h"
+#include "richtext/cleaned_runs.h"
+#include "richtext/compared_colors.h"
+
+namespace QZCore {
+namespace {
+
+/// Whether some run of `text` has what `test` asks for.
+template <class Test>
+bool anyRun(const RichText& text, Test test) {
+    for (const TextRunView run : text.runs()) {
+        if (test(run.attributes)) return true;
+    }
+    return false;
+}
+
+bool sameFamilyAndSize(const Font* a, const Font* b) {
+    if (a == nullptr || b == nullptr) return a == b;
+    return a->familyName == b->familyName && a->pointSize == b->pointSize;
+}
+
+bool hasWritingDirection(const TextAttributes& attributes) {
+    const ParagraphStyle* style = attributes.paragraphStyle();
+    if (style != nullptr && style->baseWritingDirection != WritingDirection::Natural) return true;
+    return attributes.find(NSWritingDirectionAttributeName) != nullptr;
+}
+
+bool hasBlockOrList(const TextAttributes& attributes) {
+    const ParagraphStyle* style = attributes.paragraphStyle();
+    return style != nullptr && !(style->textBlocks.empty() && style->textLists.empty());
+}
+
+}  // namespace
+
+bool RichText::hasSameFontAndSize() const {
+    FlatRuns text = FlatTextAccess::flattenedRuns(*this, {0, kFlatTextLimit - 1});
+    removeColorEmojiFonts(text);
+    return std::ranges::all_of(text.runs, [&](const FlatRun& run) {
+        return sameFamilyAndSize(text.palette.at(run.id).font(),
+                                 text.palette.at(text.runs.front().id).font());
+    });
+}
+
+bool RichText::hasSameTextColor() const {
+    const FlatRuns text = cleanedRuns(*this);
+    ComparedColors colors;
+    return std::ranges::all_of(text.runs, [&](const FlatRun& run) {
+        return colors.numberOf(comparedForeground(text.palette.at(run.id))) == 0;
+    });
+}
+
+bool RichText::containsLinks() const {
+    return anyRun(*this, [](const auto& attributes) { return attributes.link() != nullptr; });
+}
+
+Value RichText::urlLink() const {
+    const AttributeRange link = attributeAtIndex(NSLinkAttributeName, 0);
+    return link.range.length == length() ? link.value : Value();
+}
+
+bool RichText::containsAppleColorEmoji() const { return anyRun(*this, hasColorEmojiFont); }
+
+bool RichText::containsTextBlocksOrLists() const { return anyRun(*this, hasBlockOrList); }
+
+bool RichText::containsWritingDirection() const { return anyRun(*this, hasWritingDirection); }
+
+}  // namespace QZCore
