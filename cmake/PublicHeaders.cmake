@@ -56,6 +56,7 @@ set(QZCORE_PUBLIC_HEADERS
   markdown/rendering.h
   markdown/style_sheet.h
   markdown/syntax.h
+  markdown/writing.h
   model.h
   model/archive.h
   model/objects.h
