@@ -73,6 +73,8 @@ set(QZCORE_PUBLIC_HEADERS
   platform/regex.h
   platform/url_loading.h
   richtext.h
+  richtext/editing_commands.h
+  richtext/editor.h
   richtext/font_attributes.h
   richtext/font_manager.h
   richtext/paragraph_style.h

@@ -1,7 +1,9 @@
-// Rich text: paragraph styles, attributes, the text itself, stored font styles
-// and the font manager that turns one into the other.
+// Rich text: paragraph styles, attributes, the text itself, stored font styles,
+// the font manager that turns one into the other, and the editor.
 #pragma once
 
+#include "QZCore/richtext/editing_commands.h"
+#include "QZCore/richtext/editor.h"
 #include "QZCore/richtext/font_attributes.h"
 #include "QZCore/richtext/font_manager.h"
 #include "QZCore/richtext/paragraph_style.h"

@@ -21,6 +21,8 @@ struct SystemColors {
 };
 
 inline constexpr Color kTextColor = SystemColors::fromHex(0x000000);
+inline constexpr Color kControlTextColor = SystemColors::fromHex(0x1E1E1E);
+inline constexpr Color kDisabledControlTextColor = SystemColors::fromHex(0x9A9A9A);
 inline constexpr Color kLinkColor = SystemColors::fromHex(0x1A5FB4);
 inline constexpr Color kControlAccentColor = SystemColors::fromHex(0x2B7DE1);
 inline constexpr Color kSystemRed = SystemColors::fromHex(0xD93A3F);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 
 #include "QZCore/platform/fonts.h"
@@ -39,22 +40,28 @@ std::size_t paragraphEnd(const RichText& text, std::size_t position) {
 
 }  // namespace
 
+Range RichText::paragraphRangeForRange(Range range) const {
+    range = clampedRange(range, length());
+    const std::size_t start = paragraphStart(*this, range.location);
+    const std::size_t inside = std::min(range.location + 1, length());
+    return {start, paragraphEnd(*this, std::max(range.end(), inside)) - start};
+}
+
 void RichText::fixAttributesInRange(Range range) {
     range = clampedRange(range, length());
     if (edited_ && range.location <= untouchedPrefix_ &&
         length() - range.end() <= untouchedSuffix_) {
         edited_ = false;  // closing the batch has nothing left to do
     }
-    const std::size_t start = paragraphStart(*this, range.location);
-    const std::size_t end = paragraphEnd(*this, range.end());
-    if (start == end || end - start >= kFlatTextLimit) return;
-    const FlatText before = FlatTextAccess::flattened(*this, {start, end - start});
+    const Range paragraphs = paragraphRangeForRange(range);
+    if (!hasFlatForm(paragraphs.length)) return;
+    const FlatText before = FlatTextAccess::flattened(*this, paragraphs);
     FlatText fixed = before;
     const auto catalog = sharedFontCatalog();
     AttributeFixing(*catalog).fixAttributes(fixed);
     if (fixed.runs == before.runs) return;
     const int depth = std::exchange(editingDepth_, 0);  // no edit to fix again
-    FlatTextAccess::replaceRuns(*this, start, fixed);
+    FlatTextAccess::replaceRuns(*this, paragraphs.location, fixed);
     editingDepth_ = depth;
 }
 

@@ -116,4 +116,14 @@ void RichText::changeAttributes(Range range, Change change) {
     changeableStore().changeAttributes(range, change);
 }
 
+/// The way to change all runs of a range in one go.
+struct AttributeSweep {
+    /// Gives each run of `range` what `change` makes of its attributes. `change`
+    /// is asked once for each different set.
+    template <class Change>
+    static void change(RichText& text, Range range, Change change) {
+        text.changeAttributes(range, change);
+    }
+};
+
 }  // namespace QZCore

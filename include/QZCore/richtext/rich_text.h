@@ -80,6 +80,10 @@ public:
     /// The same within the whole text.
     [[nodiscard]] AttributeRange attributeAtIndex(StringView name, std::size_t index) const;
 
+    /// The paragraphs that `range` touches, with their ends; for an empty range
+    /// the paragraph around its location.
+    [[nodiscard]] Range paragraphRangeForRange(Range range) const;
+
     /// The part in `range` with its attributes.
     [[nodiscard]] RichText attributedSubstringFromRange(Range range) const;
 
@@ -264,6 +268,7 @@ public:
 
 private:
     class Store;
+    friend struct AttributeSweep;
     friend struct FlatTextAccess;
 
     Store& changeableStore();
