@@ -4,6 +4,7 @@
 #include "richtext/attribute_names.h"
 #include "richtext/cleaned_runs.h"
 #include "richtext/compared_colors.h"
+#include "richtext/distinct_sets.h"
 
 namespace QZCore {
 namespace {
@@ -38,17 +39,17 @@ bool hasBlockOrList(const TextAttributes& attributes) {
 bool RichText::hasSameFontAndSize() const {
     FlatRuns text = FlatTextAccess::flattenedRuns(*this, {0, kFlatTextLimit - 1});
     removeColorEmojiFonts(text);
-    return std::ranges::all_of(text.runs, [&](const FlatRun& run) {
-        return sameFamilyAndSize(text.palette.at(run.id).font(),
-                                 text.palette.at(text.runs.front().id).font());
+    const auto sets = distinctSets(text);
+    return std::ranges::all_of(sets, [&](const TextAttributes* set) {
+        return sameFamilyAndSize(set->font(), sets.front()->font());
     });
 }
 
 bool RichText::hasSameTextColor() const {
     const FlatRuns text = cleanedRuns(*this);
     ComparedColors colors;
-    return std::ranges::all_of(text.runs, [&](const FlatRun& run) {
-        return colors.numberOf(comparedForeground(text.palette.at(run.id))) == 0;
+    return std::ranges::all_of(distinctSets(text), [&](const TextAttributes* set) {
+        return colors.numberOf(comparedForeground(*set)) == 0;
     });
 }
 
