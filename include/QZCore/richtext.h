@@ -9,3 +9,4 @@
 #include "QZCore/richtext/paragraph_style.h"
 #include "QZCore/richtext/rich_text.h"
 #include "QZCore/richtext/text_attributes.h"
+#include "QZCore/richtext/text_lists.h"

@@ -58,7 +58,7 @@ double ListLook::markerWidthOf(const ListItem& item) const {
     return std::ceil(fonts_.widthOfText(sample, font_));
 }
 
-ParagraphStyle ListLook::styleOf(const ListItem& item, std::vector<TextList> textLists) const {
+ParagraphStyle ListLook::styleOf(const ListItem& item, TextLists textLists) const {
     const double width = markerWidthOf(item);
     const double level = item.level;
     const double indent =

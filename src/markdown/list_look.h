@@ -36,8 +36,7 @@ public:
     [[nodiscard]] String markerOf(const ListItem& item) const;
 
     /// The paragraph style of an item that stands in `textLists`.
-    [[nodiscard]] ParagraphStyle styleOf(const ListItem& item,
-                                         std::vector<TextList> textLists) const;
+    [[nodiscard]] ParagraphStyle styleOf(const ListItem& item, TextLists textLists) const;
 
     /// Items of one level have the same indents when this is the same for them.
     [[nodiscard]] static std::size_t widthClassOf(const ListItem& item) {

@@ -70,8 +70,7 @@ ListWriter& ListRenderer::writerFor(const TextAttributes& prefix, bool hasTitle)
     const auto known = writers_.find(key);
     if (known != writers_.end()) return known->second;
     ListLook look(settings_.styles, settings_.preferences, prefix, indents);
-    return writers_.try_emplace(key, std::move(look), prefix, std::vector<TextList>(), palette_)
-        .first->second;
+    return writers_.try_emplace(key, std::move(look), prefix, TextLists(), palette_).first->second;
 }
 
 void ListRenderer::write(const FlatSlice& markdown, std::span<const FlatRun> runs, bool hasTitle,

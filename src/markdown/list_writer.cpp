@@ -15,18 +15,18 @@ TextAttributes lineFeedAttributes() {
 
 }  // namespace
 
-ListWriter::ListWriter(ListLook look, const TextAttributes& prefix, std::vector<TextList> textLists,
+ListWriter::ListWriter(ListLook look, const TextAttributes& prefix, TextLists textLists,
                        AttributePalette& palette)
     : look_(std::move(look)),
       palette_(palette),
       prefix_(palette.idOf(prefix)),
       lineFeed_(palette.idOf(lineFeedAttributes())),
-      outermost_(std::move(textLists)) {}
+      textLists_{std::move(textLists)} {}
 
 std::uint32_t ListWriter::pushed(std::uint32_t lists, StringView markerFormat) {
-    const auto next = static_cast<std::uint32_t>(pushed_.size());
+    const auto next = static_cast<std::uint32_t>(textLists_.size());
     const auto [at, isNew] = numbers_.try_emplace({lists, String(markerFormat)}, next);
-    if (isNew) pushed_.push_back({lists, String(markerFormat)});
+    if (isNew) textLists_.push_back(textLists_[lists].with({String(markerFormat)}));
     return at->second;
 }
 
@@ -57,20 +57,10 @@ ListWriter::Paragraph& ListWriter::paragraphOf(const ListItem& item, std::uint32
     const ParagraphKey key{lists, item.level, ListLook::widthClassOf(item)};
     if (last_ != nullptr && key == lastKey_) return *last_;
     const auto [at, isNew] = paragraphs_.try_emplace(key);
-    if (isNew) at->second.style = Value::boxed(look_.styleOf(item, textListsOf(lists)));
+    if (isNew) at->second.style = Value::boxed(look_.styleOf(item, textLists_[lists]));
     last_ = &at->second;
     lastKey_ = key;
     return *last_;
-}
-
-std::vector<TextList> ListWriter::textListsOf(std::uint32_t lists) const {
-    std::vector<TextList> inner;
-    for (; lists != kOutermost; lists = pushed_[lists].outer) {
-        inner.push_back({pushed_[lists].markerFormat});
-    }
-    std::vector<TextList> textLists = outermost_;
-    textLists.insert(textLists.end(), inner.rbegin(), inner.rend());
-    return textLists;
 }
 
 }  // namespace QZCore

@@ -19,7 +19,7 @@ public:
     /// Numbers attributes by `palette`, which must outlive this. `prefix` are
     /// the attributes of the markers, `textLists` the lists around each list
     /// itself.
-    ListWriter(ListLook look, const TextAttributes& prefix, std::vector<TextList> textLists,
+    ListWriter(ListLook look, const TextAttributes& prefix, TextLists textLists,
                AttributePalette& palette);
 
     /// The text lists around the list itself, by their number.
@@ -56,21 +56,13 @@ private:
     };
 
     [[nodiscard]] Paragraph& paragraphOf(const ListItem& item, std::uint32_t lists);
-    [[nodiscard]] std::vector<TextList> textListsOf(std::uint32_t lists) const;
     [[nodiscard]] std::uint32_t inParagraph(Paragraph& paragraph, std::uint32_t id);
-
-    /// Text lists that lie in others.
-    struct Pushed {
-        std::uint32_t outer = kOutermost;
-        String markerFormat;
-    };
 
     ListLook look_;
     AttributePalette& palette_;
     std::uint32_t prefix_;
     std::uint32_t lineFeed_;
-    std::vector<TextList> outermost_;
-    std::vector<Pushed> pushed_{Pushed{}};  // by number, the outermost first
+    std::vector<TextLists> textLists_;  // by number, the outermost first
     std::map<std::pair<std::uint32_t, String>, std::uint32_t> numbers_;
     std::map<ParagraphKey, Paragraph> paragraphs_;
     ParagraphKey lastKey_;

@@ -37,7 +37,7 @@ class OutlineWriter {
 public:
     /// `start` is where the walk starts.
     OutlineWriter(const QZTreeNode& start, ListLook look, const TextAttributes& prefix,
-                  const std::vector<TextList>& textLists)
+                  const TextLists& textLists)
         : start_(start),
           level_(start.level()),
           writer_(std::move(look), prefix, textLists, palette_) {}
@@ -131,7 +131,7 @@ RichText richTextListFromMarkdown(const RichText& markdown, bool hasTitle,
 // NOLINTNEXTLINE(readability-function-size)
 void richTextListForNode(const QZTreeNode& node, const TextAttributes& withPrefixAttributes,
                          const StyleSheet& withStyles, bool indentFirstLevel,
-                         const std::vector<TextList>& textLists, RichText& intoBuffer,
+                         const TextLists& textLists, RichText& intoBuffer,
                          const Preferences& preferences) {
     OutlineWriter writer(node,
                          ListLook(withStyles, preferences, withPrefixAttributes, indentFirstLevel),
@@ -145,7 +145,7 @@ void richTextListForNode(const QZTreeNode& node, const TextAttributes& withPrefi
 
 void richTextListForNode(const QZTreeNode& node, const TextAttributes& withPrefixAttributes,
                          const StyleSheet& withStyles, bool indentFirstLevel,
-                         const std::vector<TextList>& textLists, RichText& intoBuffer) {
+                         const TextLists& textLists, RichText& intoBuffer) {
     richTextListForNode(node, withPrefixAttributes, withStyles, indentFirstLevel, textLists,
                         intoBuffer, Preferences::shared());
 }

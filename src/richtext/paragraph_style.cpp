@@ -26,9 +26,7 @@ std::size_t hashOf(const ParagraphStyle& style) {
         seed = hashNumber(seed, length);
     }
     for (const TextTab& tab : style.tabStops) seed = hashNumber(seed, tab.location);
-    for (const TextList& list : style.textLists) {
-        seed = hashCombine(seed, hashText(list.markerFormat));
-    }
+    seed = hashCombine(seed, hashOf(style.textLists));
     return hashCombine(seed, style.textBlocks.size());
 }
 
@@ -49,7 +47,7 @@ String descriptionOf(const ParagraphStyle& style) {
     describe(text, u"tail", style.tailIndent);
     describe(text, u"direction", static_cast<double>(style.baseWritingDirection) + 1);
     for (const TextTab& tab : style.tabStops) describe(text, u"tab", tab.location);
-    for (const TextList& list : style.textLists) {
+    for (const TextList& list : style.textLists.lists()) {
         if (!text.empty()) text += u", ";
         text.append(u"list ").append(list.markerFormat);
     }

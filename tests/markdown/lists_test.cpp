@@ -101,16 +101,17 @@ TEST_CASE("an item inside an outline keeps its level, its number and its lists")
     const auto style = [&](std::size_t at) {
         return *written.attributesAtIndex(at).paragraphStyle();
     };
-    CHECK(style(0).textLists == std::vector<TextList>{{u"{disc}"}});
-    CHECK(style(6).textLists == std::vector<TextList>{{u"{disc}"}, {u"{decimal}"}});
+    CHECK(style(0).textLists == TextLists{{u"{disc}"}});
+    CHECK(style(6).textLists == TextLists{{u"{disc}"}, {u"{decimal}"}});
     // Three markers of 6 points, two levels of 9 and the gap of 5.
     CHECK(style(6).headIndent == 3 * 6 + 2 * 9 + 5);
 }
 
-TEST_CASE("an outline as deep as there are nodes is written without recursion") {
+TEST_CASE("an outline as deep as there are nodes is written, in room for its nodes") {
     const auto root = QZTreeNode::treeNodeWithData({});
     auto last = root;
-    for (int i = 0; i < 2000; ++i) {
+    constexpr int kDepth = 100000;
+    for (int i = 0; i < kDepth; ++i) {
         auto next = QZTreeNode::treeNodeWithData(
             Value(QZPair::pairWithKey(kMarkdownListDisc, Value::boxed(RichText(u"x")))));
         last->addChild(next);
@@ -119,7 +120,9 @@ TEST_CASE("an outline as deep as there are nodes is written without recursion") 
     last->addChild(QZTreeNode::treeNodeWithData(u"no pair"));
     RichText written;
     richTextListForNode(*root, {}, {}, false, {}, written);
-    CHECK(written.length() == 2000 * 5);
+    CHECK(written.length() == kDepth * 5);
+    const TextAttributes deepest = written.attributesAtIndex(written.length() - 2);
+    CHECK(deepest.paragraphStyle()->textLists.size() == kDepth - 1);
 }
 
 }  // namespace QZCore

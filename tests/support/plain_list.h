@@ -115,7 +115,7 @@ private:
         return number;
     }
 
-    void writeChildren(const Node& parent, double level, const std::vector<TextList>& lists) {
+    void writeChildren(const Node& parent, double level, const TextLists& lists) {
         std::size_t position = 0;
         for (const auto& child : parent.children) {
             if (child->format.empty()) {
@@ -124,14 +124,11 @@ private:
                 continue;
             }
             writeItem(*child, level + 1, ++position, lists);
-            std::vector<TextList> inner = lists;
-            inner.push_back({String(child->format)});
-            writeChildren(*child, level + 1, inner);
+            writeChildren(*child, level + 1, lists.with({String(child->format)}));
         }
     }
 
-    void writeItem(const Node& item, double level, std::size_t position,
-                   const std::vector<TextList>& lists) {
+    void writeItem(const Node& item, double level, std::size_t position, const TextLists& lists) {
         const bool isNumbered = item.format == u"{decimal}";
         const bool alternates =
             preferences_.boolForKey(u"Markdown Inline Lists Alternate Discs", true);

@@ -55,13 +55,13 @@ inline constexpr StringView kMarkdownListDecimal = u"{decimal}";
 QZ_EXPORT void richTextListForNode(const QZTreeNode& node,
                                    const TextAttributes& withPrefixAttributes,
                                    const StyleSheet& withStyles, bool indentFirstLevel,
-                                   const std::vector<TextList>& textLists, RichText& intoBuffer);
+                                   const TextLists& textLists, RichText& intoBuffer);
 
 /// The same with preferences of one's own.
 QZ_EXPORT void richTextListForNode(const QZTreeNode& node,
                                    const TextAttributes& withPrefixAttributes,
                                    const StyleSheet& withStyles, bool indentFirstLevel,
-                                   const std::vector<TextList>& textLists, RichText& intoBuffer,
+                                   const TextLists& textLists, RichText& intoBuffer,
                                    const Preferences& preferences);
 
 /// The outline of the Markdown list `markdown`. Lines that are no items are left

@@ -10,6 +10,7 @@
 #include "QZCore/color.h"
 #include "QZCore/export.h"
 #include "QZCore/foundation/text.h"
+#include "QZCore/richtext/text_lists.h"
 
 namespace QZCore {
 
@@ -40,15 +41,6 @@ struct TextTab {
 
     /// Exact comparison of both fields.
     friend bool operator==(const TextTab&, const TextTab&) = default;
-};
-
-/// A list that a paragraph belongs to.
-struct TextList {
-    /// The form of its markers, as "{disc}" or "{decimal}".
-    String markerFormat;
-
-    /// Whether both have the same marker format.
-    friend bool operator==(const TextList&, const TextList&) = default;
 };
 
 /// A box that a paragraph stands in.
@@ -93,7 +85,7 @@ struct ParagraphStyle {
     /// Tab stops in order of location.
     std::vector<TextTab> tabStops = {};
     /// The lists around the paragraph, outermost first.
-    std::vector<TextList> textLists = {};
+    TextLists textLists = {};
     /// The boxes around the paragraph, outermost first.
     std::vector<TextBlock> textBlocks = {};
 
