@@ -194,6 +194,10 @@ TEST_CASE("markers of a list end in one column of the terminal") {
          "   1. a\n   2. a\n   3. a\n   4. a\n   5. a\n   6. a\n   7. a\n   8. a\n   9. a\n"
          "  10. a\n"},
         {"what belongs to an item", u"1. a\n   b\n\nc", "  1. a\n     b\n\nc\n"},
+        {"code in an item", u"1. a\n```\n  b\n \n  c\n```\n",
+         "  1. a\n     \x1b[38;2;0;0;0;48;2;241;241;241m\x1b[Kb\x1b[0m\n"
+         "     \x1b[38;2;0;0;0;48;2;241;241;241m\x1b[K\x1b[0m\n"
+         "     \x1b[38;2;0;0;0;48;2;241;241;241m\x1b[Kc\x1b[0m\n"},
         {"one of the two empty lines behind a list goes", u"- a\n\n\nb", "  \u25CF a\n\n\nb\n"},
         {"markers look as all of the list does", u"*- a*",
          "  \x1b[3m\u25CF\x1b[0m \x1b[3ma\x1b[0m\n"},

@@ -8,7 +8,9 @@
 #include "support/random_texts.h"
 #include "tools/qznote/fences.h"
 #include "tools/qznote/list_indent.h"
+#include "tools/qznote/loose_lists.h"
 #include "tools/qznote/outline_report.h"
+#include "tools/qznote/quotations.h"
 
 namespace QZCore {
 
@@ -49,6 +51,35 @@ TEST_CASE("plain fences stay, and nothing else of a note changes") {
     String open;
     for (int i = 0; i < 100000; ++i) open += u" ```a\n";
     CHECK(qznote::withPlainFences(open) == open);
+}
+
+TEST_CASE("empty lines end neither a list that goes on nor a quotation") {
+    struct Row {
+        const char* why;
+        StringView note;
+        StringView plain;
+    };
+    const Row rows[] = {
+        {"the next number", u"1. a\n\n2. b\n \n\n3. c\n\nd", u"1. a\n2. b\n3. c\n\nd"},
+        {"the same number", u"1. a\n\n1. b", u"1. a\n1. b"},
+        {"another number", u"1. a\n\n3. b", u"1. a\n\n3. b"},
+        {"bullets", u"- a\n\n- b", u"- a\n\n- b"},
+        {"another indentation", u"1. a\n\n 2. b", u"1. a\n\n 2. b"},
+        {"what belongs to an item", u"- a\n\n  b\n\n\t- c\n\nd\n\n  e",
+         u"- a\n  b\n\t- c\n\nd\n\n  e"},
+        {"too little indentation", u"1. a\n\n  b", u"1. a\n\n  b"},
+        {"code in a list", u"- a\n\n  ```\n  b\n\n  c\n  ```\n\nd",
+         u"- a\n  ```\n  b\n \n  c\n  ```\n\nd"},
+        {"code", u"```\n1. a\n\n2. b\n>\n```\n", u"```\n1. a\n\n2. b\n>\n```\n"},
+        {"no markers", u"1a\n\n 2.a\n\n -\n\n1234567890. a\n\n  b",
+         u"1a\n\n 2.a\n\n -\n\n1234567890. a\n\n  b"},
+        {"a quotation", u"> a\n>\n> b\n>", u"> a\n> \n> b\n> "},
+        {"at the end", u"1. a\n\n", u"1. a\n\n"},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.why);
+        CHECK(qznote::withTightLists(qznote::withQuotedEmptyLines(row.note)) == row.plain);
+    }
 }
 
 TEST_CASE("a note shows how far it indents lists") {

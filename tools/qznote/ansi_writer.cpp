@@ -61,7 +61,8 @@ private:
     void writeLine(const Block& block, Range line) {
         const TextAttributes first = text_.attributesAtIndex(line.location);
         if (block.kind == BlockKind::Code) {
-            terminal_.fillLine(first);
+            // An empty line of it may look otherwise.
+            terminal_.fillLine(text_.attributesAtIndex(blocks_.lineOf(block).location));
         } else if (block.kind != BlockKind::Item && !block.isQuoted && line.length > 0) {
             terminal_.write(blanks(indentOf(first.paragraphStyle())));
         }

@@ -18,10 +18,10 @@ int levelOfHeading(double pointSize) {
     return static_cast<int>(at - kLeastSizes.begin()) + 1;
 }
 
-/// The blanks at the start of a line that has something else too.
+/// The blanks at the start of a line.
 std::size_t indentationOf(const RichText& text, Range line) {
     const std::size_t blanks = text.string(line).find_first_not_of(u" \t");
-    return blanks == String::npos ? 0 : blanks;
+    return std::min(blanks, line.length);
 }
 
 bool isEmptyLine(const Block& block, Range line) {

@@ -2,24 +2,14 @@
 
 #include <algorithm>
 
+#include "note_lines.h"
+
 namespace qznote {
 namespace {
 
 using namespace QZCore;
 
-constexpr StringView kFence = u"```";
-constexpr StringView kBlanks = u" \t";
-
-std::size_t indentationOf(StringView line) {
-    return std::min(line.find_first_not_of(kBlanks), line.size());
-}
-
-bool opensCode(StringView line) {
-    line.remove_prefix(indentationOf(line));
-    return line.starts_with(kFence) && line.find(u'`', kFence.size()) == StringView::npos;
-}
-
-bool closesCode(StringView line) { return trimmedOfWhitespace(line) == kFence; }
+constexpr StringView kFence = u"```\n";
 
 /// Copies a note line by line.
 class Copying {
@@ -29,33 +19,25 @@ public:
     [[nodiscard]] String copy() {
         bool isBelowText = false;
         while (!rest_.empty()) {
-            const StringView line = nextLine();
+            const StringView line = takeLine(rest_);
             if (opensCode(line) && isClosedBelow()) {
                 copyCode(isBelowText ? 0 : indentationOf(line));
                 isBelowText = false;
             } else {
                 copy_ += line;
-                isBelowText = !trimmedOfWhitespaceAndNewlines(line).empty();
+                isBelowText = !isEmptyLine(line);
             }
         }
         return std::move(copy_);
     }
 
 private:
-    /// The next line with its line feed.
-    StringView nextLine() {
-        const std::size_t feed = rest_.find(u'\n');
-        const StringView line = rest_.substr(0, feed == StringView::npos ? feed : feed + 1);
-        rest_.remove_prefix(line.size());
-        return line;
-    }
-
     /// Whether a fence closes what is open here.
     bool isClosedBelow() {
         const StringView here = rest_;
         // Where none was found, there is none further below either.
         while (!isLastFenceSeen_ && !rest_.empty()) {
-            if (closesCode(withoutFeed(nextLine()))) {
+            if (closesCode(takeLine(rest_))) {
                 rest_ = here;
                 return true;
             }
@@ -65,20 +47,14 @@ private:
         return false;
     }
 
-    static StringView withoutFeed(StringView line) {
-        return line.ends_with(u'\n') ? line.substr(0, line.size() - 1) : line;
-    }
-
     /// Copies the code and its fences, with so many blanks less before each line.
     void copyCode(std::size_t blanks) {
         copy_ += kFence;
-        copy_ += u'\n';
-        StringView line = nextLine();
-        for (; !closesCode(withoutFeed(line)); line = nextLine()) {
+        StringView line = takeLine(rest_);
+        for (; !closesCode(line); line = takeLine(rest_)) {
             copy_ += line.substr(std::min(blanks, indentationOf(line)));
         }
-        copy_ += kFence;
-        if (line.ends_with(u'\n')) copy_ += u'\n';
+        copy_ += line.ends_with(u'\n') ? kFence : kFence.substr(0, kFence.size() - 1);
     }
 
     StringView rest_;

@@ -4,6 +4,8 @@
 #include "QZCore/markdown/rendering.h"
 #include "fences.h"
 #include "list_indent.h"
+#include "loose_lists.h"
+#include "quotations.h"
 
 namespace qznote {
 namespace {
@@ -38,7 +40,7 @@ String noteText(DataView bytes) {
         const bool endsInFeed = raw[i] == u'\r' && i + 1 < raw.size() && raw[i + 1] == u'\n';
         if (!endsInFeed) text += raw[i] == u'\r' ? u'\n' : raw[i];
     }
-    return withPlainFences(text);
+    return withPlainFences(withTightLists(withQuotedEmptyLines(text)));
 }
 
 TextAttributes baseAttributes(const StyleSheet& styles) {

@@ -8,8 +8,8 @@
 namespace qznote {
 
 /// The text of a note in UTF-8, with line feeds as its only line ends, without a
-/// byte-order mark, and with the fences around its code as the dialect knows
-/// them.
+/// byte-order mark, and with code, lists and quotations that were written for
+/// other dialects as this one knows them.
 [[nodiscard]] QZCore::String noteText(QZCore::DataView bytes);
 
 /// The attributes of unmarked text: the user's font and what the style sheet
