@@ -8,6 +8,14 @@ namespace QZCore {
 namespace {
 
 constexpr StringView kListStyleName = u"-";
+
+/// The length stored under `key`. As in a style, what is no length counts as
+/// absent.
+double lengthForKey(const Preferences& preferences, StringView key, double otherwise) {
+    const double length = preferences.doubleForKey(key, otherwise);
+    return std::isfinite(length) ? length : otherwise;
+}
+
 /// The paragraph style that all items start from.
 ParagraphStyle baseStyle(const StyleSheet& styles, const Preferences& preferences,
                          const TextAttributes& prefix, const Font& font) {
@@ -44,8 +52,8 @@ ListLook::ListLook(const StyleSheet& styles, const Preferences& preferences,
       base_(baseStyle(styles, preferences, prefix, font_)),
       alternatesDiscs_(preferences.boolForKey(u"Markdown Inline Lists Alternate Discs", true)),
       levelsLess_(indentsFirstLevel ? 0 : 1),
-      indention_(preferences.doubleForKey(u"Markdown Inline Lists Indentions", 9)),
-      gap_(preferences.doubleForKey(u"Markdown Inline Lists Marker To Text Gap", 5)) {}
+      indention_(lengthForKey(preferences, u"Markdown Inline Lists Indentions", 9)),
+      gap_(lengthForKey(preferences, u"Markdown Inline Lists Marker To Text Gap", 5)) {}
 
 String ListLook::markerOf(const ListItem& item) const {
     if (item.isNumbered()) return integerString(static_cast<std::int64_t>(item.position)) + u".";
