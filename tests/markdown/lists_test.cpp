@@ -2,11 +2,12 @@
 // makes of a note is held to its rules in rendering_law_test.cpp.
 #include "QZCore/markdown/lists.h"
 
+#include <cmath>
+
 #include "QZCore/model/pair.h"
 #include "support/font_scope.h"
 #include "support/markdown_settings.h"
-#include "support/plain_list.h"
-#include "support/printing.h"
+#include "support/text_rows.h"
 #include "tools/qznote/runs_writer.h"
 
 namespace QZCore {
@@ -32,12 +33,7 @@ String printed(const QZTreeNode& node) {
 }  // namespace
 
 TEST_CASE("items lie under items that are indented less") {
-    struct Row {
-        const char* why;
-        StringView markdown;
-        StringView outline;
-    };
-    const Row rows[] = {
+    const testing::TextRow<StringView> rows[] = {
         {"no item is more than one level below the one before", u"- a\n        - b", u"*a\n *b\n"},
         {"a tab is a level, and four blanks are", u"- a\n\t- b\n    - c", u"*a\n *b\n *c\n"},
         {"three blanks are none", u"- a\n   - b", u"*a\n*b\n"},
@@ -50,45 +46,37 @@ TEST_CASE("items lie under items that are indented less") {
         {"not the last line feed", u"- a\n", u"*a\n"},
         {"nothing", u"", u""},
     };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(printed(*listOutlineFromMarkdown(RichText(row.markdown))) == row.outline);
-    }
+    testing::checkRows(rows, [](StringView markdown) {
+        return printed(*listOutlineFromMarkdown(RichText(markdown)));
+    });
 }
 
 TEST_CASE("an outline is written as its Markdown is") {
     const testing::MadeUpFonts fonts;
     const TextAttributes red{
         {NSForegroundColorAttributeName, Value::boxed(Color::colorWithCalibratedRed(1, 0, 0, 1))}};
-    for (const char* json :
-         {"", R"({"preferences": {"Markdown Inline Lists Indent First Level": true,
-                  "Markdown Inline Lists Marker To Text Gap": 3}})"}) {
-        const MarkdownSettings settings(json);
-        for (const StringView markdown :
-             {StringView(u"- a\n- b\n\t1. c\n\t2. d\n\t\t- e\n\t3. f\n- g\n\n"),
-              StringView(u"1. a\n2. b\n3. c\n4. d\n5. e\n6. f\n7. g\n8. h\n9. i\n10. j\n11. k")}) {
-            RichText text(markdown, red);
-            text.addAttribute(NSUnderlineStyleAttributeName, 1, {2, 1});
-            const RichText expected = testing::PlainList(settings, text, true).result();
-            CHECK(qznote::runLines(richTextListFromMarkdown(
-                      text, true, settings.styles(), settings.syntax(), settings.preferences())) ==
-                  qznote::runLines(expected));
-
-            const auto outline =
-                listOutlineFromMarkdown(text, settings.syntax(), settings.preferences());
-            RichText written(u"before\n");
-            richTextListForNode(*outline, red, settings.styles(), true, {}, written,
-                                settings.preferences());
-            if (markdown.ends_with(u"\n\n")) {
-                written.appendAttributedString(RichText(u"\n\n", red));
-            }
-            CHECK(qznote::runLines(written) == qznote::runLines([&] {
-                      RichText whole(u"before\n");
-                      whole.appendAttributedString(expected);
-                      return whole;
-                  }()));
-        }
+    for (const StringView markdown :
+         {u"- a\n- b\n\t1. c\n\t2. d\n\t\t- e\n\t3. f\n- g",
+          u"1. a\n2. b\n3. c\n4. d\n5. e\n6. f\n7. g\n8. h\n9. i\n10. j\n11. k"}) {
+        RichText text(markdown, red);
+        text.addAttribute(NSUnderlineStyleAttributeName, 1, {2, 1});
+        RichText expected(u"before\n");
+        expected.appendAttributedString(richTextListFromMarkdown(text, true, {}));
+        RichText written(u"before\n");
+        richTextListForNode(*listOutlineFromMarkdown(text), red, {}, true, {}, written);
+        CHECK(qznote::runLines(written) == qznote::runLines(expected));
+        CHECK(written == expected);
     }
+}
+
+TEST_CASE("lengths that are no numbers count as absent") {
+    const testing::MadeUpFonts fonts;
+    const MarkdownSettings settings("");
+    const Preferences odd(Dictionary{{u"Markdown Inline Lists Marker To Text Gap", NAN},
+                                     {u"Markdown Inline Lists Indentions", HUGE_VAL}});
+    const RichText list(u"- a\n\t- b");
+    CHECK(richTextListFromMarkdown(list, true, {}, settings.syntax(), odd) ==
+          richTextListFromMarkdown(list, true, {}, settings.syntax(), settings.preferences()));
 }
 
 TEST_CASE("an item inside an outline keeps its level, its number and its lists") {

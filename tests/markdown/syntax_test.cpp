@@ -116,12 +116,4 @@ TEST_CASE("a setting replaces the link pattern, and leaves links out when it is 
     }
 }
 
-TEST_CASE("a table does not follow settings that change later") {
-    Preferences preferences;
-    const MarkdownSyntax before = markdownSyntaxFromPreferences(preferences);
-    preferences.setObject(false, u"Markdown Support Bold");
-    CHECK(before.expressionForKey(u"bold") != nullptr);
-    CHECK(markdownSyntaxFromPreferences(preferences).expressionForKey(u"bold") == nullptr);
-}
-
 }  // namespace QZCore

@@ -3,8 +3,8 @@
 #include <doctest/doctest.h>
 
 #include "support/font_scope.h"
-#include "support/printing.h"
 #include "support/random_texts.h"
+#include "support/text_rows.h"
 #include "tools/qznote/note.h"
 
 namespace QZCore {
@@ -18,12 +18,7 @@ std::string rendered(StringView note) {
 
 TEST_CASE("constructs become terminal codes that end with their line") {
     const testing::MadeUpFonts fonts;
-    struct Row {
-        const char* why;
-        StringView note;
-        std::string ansi;
-    };
-    const Row rows[] = {
+    const testing::TextRow<std::string> rows[] = {
         {"emphasis", u"a **b** *c*\n", "a \x1b[1mb\x1b[0m \x1b[3mc\x1b[0m\n"},
         {"code over two lines", u"```\na\nb\n```\n",
          "\x1b[38;2;0;0;0;48;2;241;241;241m\x1b[Ka\x1b[0m\n"
@@ -34,13 +29,23 @@ TEST_CASE("constructs become terminal codes that end with their line") {
          "\x1b[4;38;2;26;115;232m\x1b]8;;http://a.example\x1b\\a\x1b[0m\x1b]8;;\x1b\\\n"},
         {"an image", u"![a b|64x48](x:y)", "[a b 64x48]\n"},
         {"a quotation has a bar", u"> a\n> *b*\n", "\u2502 a\n\u2502 \x1b[3mb\x1b[0m\n"},
+        {"sub-items stand below the text", u"- a\n\t1. b\n\t\t- c\n- d",
+         "  \u25CF a\n    1. b\n       \u25CF c\n  \u25CF d\n"},
+        {"numbers are aligned", u"1. a\n1. a\n1. a\n1. a\n1. a\n1. a\n1. a\n1. a\n1. a\n1. a",
+         "   1. a\n   2. a\n   3. a\n   4. a\n   5. a\n   6. a\n   7. a\n   8. a\n   9. a\n"
+         "  10. a\n"},
+        {"what belongs to an item", u"1. a\n   b\n\nc", "  1. a\n     b\n\nc\n"},
+        {"code in an item", u"1. a\n```\n  b\n \n  c\n```\n",
+         "  1. a\n     \x1b[38;2;0;0;0;48;2;241;241;241m\x1b[Kb\x1b[0m\n"
+         "     \x1b[38;2;0;0;0;48;2;241;241;241m\x1b[K\x1b[0m\n"
+         "     \x1b[38;2;0;0;0;48;2;241;241;241m\x1b[Kc\x1b[0m\n"},
+        {"one of the two empty lines behind a list goes", u"- a\n\n\nb", "  \u25CF a\n\n\nb\n"},
+        {"markers look as all of the list does", u"*- a*",
+         "  \x1b[3m\u25CF\x1b[0m \x1b[3ma\x1b[0m\n"},
         {"control characters", u"a\x1b[31m\x7F\u009B\u2029\x07",
          "a\u241B[31m\u2421\uFFFD\n\u2407\n"},
     };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(rendered(row.note) == row.ansi);
-    }
+    testing::checkRows(rows, rendered);
 }
 
 TEST_CASE("no note switches anything on beyond its line") {

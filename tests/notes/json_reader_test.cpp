@@ -14,27 +14,25 @@ TEST_CASE("JSON is read as values") {
 }
 
 TEST_CASE("what is no JSON text is no value") {
-    const std::string faults[] = {
-        "",
-        " ",
-        "{",
-        "[1",
-        "[1,]",
-        "{\"a\"}",
-        "01",
-        "nul",
-        "\"a",
-        "\"\x01\"",
-        "[]x",
-        "{\"a\":1,}",
-        "'a'",
-        "\"\\ud800\"",
-        "\"\xff\"",
-        "1e999",
-        "// a",
-        std::string(513, '['),
-        std::string(513, '[') + std::string(513, ']'),
-    };
+    const std::string faults[] = {"",
+                                  " ",
+                                  "{",
+                                  "[1",
+                                  "[1,]",
+                                  "{\"a\"}",
+                                  "01",
+                                  "nul",
+                                  "\"a",
+                                  "\"\x01\"",
+                                  "[]x",
+                                  "{\"a\":1,}",
+                                  "'a'",
+                                  "\"\\ud800\"",
+                                  "\"\xff\"",
+                                  "1e999",
+                                  "// a",
+                                  std::string(513, '['),
+                                  std::string(513, '[') + std::string(513, ']')};
     for (const std::string& fault : faults) {
         CAPTURE(fault.substr(0, 20));
         CHECK(qznote::readJson(fault).isAbsent());

@@ -4,8 +4,8 @@
 #include <doctest/doctest.h>
 
 #include "support/font_scope.h"
-#include "support/printing.h"
 #include "support/random_texts.h"
+#include "support/text_rows.h"
 #include "tools/qznote/fences.h"
 #include "tools/qznote/list_indent.h"
 #include "tools/qznote/loose_lists.h"
@@ -15,12 +15,7 @@
 namespace QZCore {
 
 TEST_CASE("fences become those that the dialect knows") {
-    struct Row {
-        const char* why;
-        StringView note;
-        StringView plain;
-    };
-    const Row rows[] = {
+    const testing::TextRow<StringView> rows[] = {
         {"a language goes", u"```sh\na\n```\nb", u"```\na\n```\nb"},
         {"with all that is said of it", u"``` js title=x\na\n```", u"```\na\n```"},
         {"an indented block", u"  ```\n  a\n    b\n c\n\n  ```  \nd", u"```\na\n  b\nc\n\n```\nd"},
@@ -34,10 +29,7 @@ TEST_CASE("fences become those that the dialect knows") {
         {"not closed", u" ```sh\na ```\n", u" ```sh\na ```\n"},
         {"four backticks", u" ````\na\n````\n", u" ````\na\n````\n"},
     };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(qznote::withPlainFences(row.note) == row.plain);
-    }
+    testing::checkRows(rows, qznote::withPlainFences);
 }
 
 TEST_CASE("plain fences stay, and nothing else of a note changes") {
@@ -54,12 +46,7 @@ TEST_CASE("plain fences stay, and nothing else of a note changes") {
 }
 
 TEST_CASE("empty lines end neither a list that goes on nor a quotation") {
-    struct Row {
-        const char* why;
-        StringView note;
-        StringView plain;
-    };
-    const Row rows[] = {
+    const testing::TextRow<StringView> rows[] = {
         {"the next number", u"1. a\n\n2. b\n \n\n3. c\n\nd", u"1. a\n2. b\n3. c\n\nd"},
         {"the same number", u"1. a\n\n1. b", u"1. a\n1. b"},
         {"another number", u"1. a\n\n3. b", u"1. a\n\n3. b"},
@@ -76,19 +63,13 @@ TEST_CASE("empty lines end neither a list that goes on nor a quotation") {
         {"a quotation", u"> a\n>\n> b\n>", u"> a\n> \n> b\n> "},
         {"at the end", u"1. a\n\n", u"1. a\n\n"},
     };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(qznote::withTightLists(qznote::withQuotedEmptyLines(row.note)) == row.plain);
-    }
+    testing::checkRows(rows, [](StringView note) {
+        return qznote::withTightLists(qznote::withQuotedEmptyLines(note));
+    });
 }
 
 TEST_CASE("a note shows how far it indents lists") {
-    struct Row {
-        const char* why;
-        StringView note;
-        std::int64_t blanks;
-    };
-    const Row rows[] = {
+    const testing::TextRow<std::int64_t> rows[] = {
         {"no list", u"a", 4},
         {"no sub-items", u"- a\n- b", 4},
         {"two", u"- a\n  - b\n    - c\n  - d", 2},
@@ -102,10 +83,7 @@ TEST_CASE("a note shows how far it indents lists") {
         {"nor does the first item", u"  - a\n  - b", 4},
         {"nor does code", u"```\na:\n- b\n  - c\n  - d\n```\n- a\n    - b", 4},
     };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(qznote::blanksPerLevel(row.note) == row.blanks);
-    }
+    testing::checkRows(rows, qznote::blanksPerLevel);
     const testing::MadeUpFonts fonts;
     CHECK(qznote::outlineReport(qznote::renderedNote(u"- a\n  - b\n    - c\n  - d", {}),
                                 qznote::baseAttributes({})) ==

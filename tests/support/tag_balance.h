@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace QZCore::testing {
@@ -13,16 +14,21 @@ struct PageReading {
     std::string fault;
     /// The text between the tags, with character references resolved.
     std::string text;
+    /// The items of its lists as a person sees them: a line for each, with two
+    /// blanks for each list around its own.
+    std::string items;
 };
 
-/// Reads `page`: every tag must be closed in order, every attribute quoted, and
-/// every special character written as one of four references.
+/// Reads `page`: every tag must be closed in order, every attribute quoted, every
+/// special character written as one of four references, and lists must hold
+/// items alone.
 class PageReader {
 public:
     [[nodiscard]] static PageReading read(std::string_view page) {
         PageReader reader(page.substr(page.starts_with(kDoctype) ? kDoctype.size() : 0));
         while (reader.reading_.fault.empty() && !reader.rest_.empty()) reader.readNext();
         if (!reader.open_.empty()) reader.fail("not closed: " + reader.open_.back());
+        if (!reader.reading_.items.empty()) reader.reading_.items += '\n';
         return reader.reading_;
     }
 
@@ -61,6 +67,7 @@ private:
             const std::string name = takeName();
             if (open_.empty() || open_.back() != name) return fail("closed out of order: " + name);
             open_.pop_back();
+            if (isList(name)) lists_.pop_back();
             if (!skip(">")) fail("tag without an end");
         } else if (skip("<")) {
             readOpeningTag();
@@ -71,15 +78,35 @@ private:
 
     void readOpeningTag() {
         const std::string name = takeName();
+        if (isInList() != (name == "li")) return fail("not in its place: " + name);
+        if (isList(name)) lists_.push_back({.isNumbered = name == "ol"});
         while (skip(" ")) {
             const std::string attribute = takeName();
             if (!skip("=\"")) return fail("no value: " + attribute);
-            const std::size_t kept = reading_.text.size();
+            const PageReading before = std::exchange(reading_, {});
             while (!skip("\"") && !rest_.empty() && reading_.fault.empty()) readCharacter("<>\"");
-            reading_.text.resize(kept);
+            if (!lists_.empty()) readListAttribute(attribute, reading_.text);
+            reading_ = {reading_.fault, before.text, before.items};
         }
         if (!skip(">")) return fail("tag without an end");
+        if (name == "li") startItem();
         if (name != "img" && name != "meta") open_.push_back(name);
+    }
+
+    static bool isList(std::string_view name) { return name == "ul" || name == "ol"; }
+    [[nodiscard]] bool isInList() const { return !open_.empty() && isList(open_.back()); }
+
+    void readListAttribute(std::string_view name, const std::string& value) {
+        if (name == "start" || name == "value") lists_.back().next = std::stoi(value);
+        if (value.find("circle") != value.npos) lists_.back().bullet = "\u25E6";
+    }
+
+    void startItem() {
+        List& list = lists_.back();
+        if (!reading_.items.empty()) reading_.items += '\n';
+        reading_.items.append((lists_.size() - 1) * 2, ' ');
+        reading_.items += list.isNumbered ? std::to_string(list.next++) + "." : list.bullet;
+        reading_.items += ' ';
     }
 
     void readCharacter(std::string_view forbidden) {
@@ -89,17 +116,29 @@ private:
         } kReferences[] = {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}};
         for (const auto& [reference, character] : kReferences) {
             if (!skip(reference)) continue;
-            reading_.text += character;
-            return;
+            return add(character);
         }
         const char byte = rest_.front();
         if (byte == '&' || forbidden.find(byte) != forbidden.npos) return fail("not escaped");
-        reading_.text += byte;
+        if (isInList() && byte != '\n') return fail("text beside items");
         rest_.remove_prefix(1);
+        add(byte);
     }
+
+    void add(char character) {
+        reading_.text += character;
+        if (!open_.empty() && open_.back() == "li") reading_.items += character;
+    }
+
+    struct List {
+        bool isNumbered = false;
+        std::string bullet = "\u25CF";
+        int next = 1;
+    };
 
     std::string_view rest_;
     std::vector<std::string> open_;
+    std::vector<List> lists_;
     PageReading reading_;
 };
 
