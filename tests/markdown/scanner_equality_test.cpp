@@ -1,7 +1,9 @@
 // The scanners against the regular expressions that define them.
+#include <algorithm>
 #include <cstdlib>
 #include <random>
 
+#include "QZCore/codecs/parsing.h"
 #include "QZCore/platform/regex.h"
 #include "markdown/scanner.h"
 #include "markdown/syntax_rows.h"
@@ -20,51 +22,34 @@ int numberOfTexts() {
     return asked == nullptr ? 20'000 : std::atoi(asked);
 }
 
-// The pieces that a row's pattern tells apart.
-std::vector<StringView> ownPieces(ScannerKind kind) {
-    switch (kind) {
-        case ScannerKind::Escape:
-            return {u"\\", u"\\", u"`", u"*", u"_", u"(", u"]", u"#", u"!"};
-        case ScannerKind::ItalicUnderscore:
-        case ScannerKind::ItalicUnderscoreIntraword:
-        case ScannerKind::Underline:
-            return {u"_", u"_", u"__", u"_a", u"a_", u"-"};
-        case ScannerKind::ItalicAsterisk:
-        case ScannerKind::Bold:
-            return {u"*", u"*", u"**", u"*a", u"a**", u"_"};
-        case ScannerKind::BoldItalic:
-            return {u"***", u"***", u"___", u"___", u"*", u"_", u"***a", u"___a", u"a***", u"a___"};
-        case ScannerKind::Strikethrough:
-            return {u"~~", u"~", u"~~a", u"a~~"};
-        case ScannerKind::HighlightEquals:
-            return {u"==", u"=", u"==a", u"a=="};
-        case ScannerKind::HighlightCaret:
-            return {u"^^", u"^", u"^^a", u"a^^"};
-        case ScannerKind::HighlightColon:
-            return {u"::", u":", u"::a", u"a::"};
-        case ScannerKind::InlineCode:
-            return {u"`", u"`", u"``", u"```", u"a`"};
-        case ScannerKind::Link:
-            return {u"[", u"]", u"(", u")", u"](", u"!", u"![a](", u"[b](c)"};
-        case ScannerKind::Headers:
-        case ScannerKind::HeadersNoSpace:
-            return {u"#", u"#", u"##", u"\n#", u"# ", u"######", u" "};
-        case ScannerKind::Emoji:
-            return {u":", u":", u":", u"_", u"-", u"+", u"Z", u"9", u"@", u"["};
-        case ScannerKind::CodeBlock:
-            return {u"```\n", u"```", u"`", u"\n", u"\n```\n"};
-        case ScannerKind::BlockQuote:
-            return {u">", u"\n>", u"> ", u">  ", u" "};
-        case ScannerKind::List:
-        case ScannerKind::ListLine:
-            return {u"-", u"*", u"+", u"\n- ", u"1.", u"\n12. ", u".", u"\n\n", u"\r\n\n", u" "};
-        case ScannerKind::Table:
-            return {u"|", u"|", u"-", u"+", u":", u".", u" ", u"\n|-", u"\n-"};
-        case ScannerKind::InlineMeta:
-            return {u"#", u"@", u" #", u"\n@", u" #ab", u"-", u".", u"=", u"/", u"_", u"ab"};
-    }
-    return {};
-}
+// The pieces that a row's pattern tells apart, with commas between.
+constexpr struct {
+    ScannerKind scanner;
+    StringView pieces;
+} kOwnPieces[] = {
+    {ScannerKind::Escape, u"\\,\\,`,*,_,(,],#,!"},
+    {ScannerKind::ItalicUnderscore, u"_,_,__,_a,a_,-"},
+    {ScannerKind::ItalicUnderscoreIntraword, u"_,_,__,_a,a_,-"},
+    {ScannerKind::Underline, u"_,_,__,_a,a_,-"},
+    {ScannerKind::ItalicAsterisk, u"*,*,**,*a,a**,_"},
+    {ScannerKind::Bold, u"*,*,**,*a,a**,_"},
+    {ScannerKind::BoldItalic, u"***,***,___,___,*,_,***a,___a,a***,a___"},
+    {ScannerKind::Strikethrough, u"~~,~,~~a,a~~"},
+    {ScannerKind::HighlightEquals, u"==,=,==a,a=="},
+    {ScannerKind::HighlightCaret, u"^^,^,^^a,a^^"},
+    {ScannerKind::HighlightColon, u"::,:,::a,a::"},
+    {ScannerKind::InlineCode, u"`,`,``,```,a`"},
+    {ScannerKind::Link, u"[,],(,),](,!,![a](,[b](c)"},
+    {ScannerKind::Headers, u"#,#,##,\n#,# ,######, "},
+    {ScannerKind::HeadersNoSpace, u"#,#,##,\n#,# ,######, "},
+    {ScannerKind::Emoji, u":,:,:,_,-,+,Z,9,@,["},
+    {ScannerKind::CodeBlock, u"```\n,```,`,\n,\n```\n"},
+    {ScannerKind::BlockQuote, u">,\n>,> ,>  , "},
+    {ScannerKind::List, u"-,*,+,\n- ,1.,\n12. ,.,\n\n,\r\n\n, "},
+    {ScannerKind::ListLine, u"-,*,+,\n- ,1.,\n12. ,.,\n\n,\r\n\n, "},
+    {ScannerKind::Table, u"|,|,-,+,:,., ,\n|-,\n-"},
+    {ScannerKind::InlineMeta, u"#,@, #,\n@, #ab,-,.,=,/,_,ab"},
+};
 
 // Letters, blanks, line ends, and what tells character properties apart.
 constexpr StringView kCommonPieces[] = {
@@ -77,13 +62,16 @@ constexpr StringView kCommonPieces[] = {
 
 class TextMaker {
 public:
-    explicit TextMaker(ScannerKind kind)
-        : own_(ownPieces(kind)), random_(static_cast<unsigned>(kind) + 1) {}
+    explicit TextMaker(ScannerKind kind) : random_(static_cast<unsigned>(kind) + 1) {
+        const auto* row =
+            std::ranges::find(kOwnPieces, kind, [](auto& own) { return own.scanner; });
+        own_ = componentsSeparatedByPattern(row->pieces, u",");
+    }
 
     String next() {
         String text;
         for (std::size_t pieces = below(22); pieces > 0; --pieces) {
-            text += below(5) < 3 ? own_[below(own_.size())]
+            text += below(5) < 3 ? StringView(own_[below(own_.size())])
                                  : kCommonPieces[below(std::size(kCommonPieces))];
         }
         // Some texts are longer than the blocks in which units are searched.
@@ -94,7 +82,7 @@ public:
 private:
     std::size_t below(std::size_t bound) { return random_() % bound; }
 
-    std::vector<StringView> own_;
+    std::vector<String> own_;
     std::mt19937 random_;
 };
 

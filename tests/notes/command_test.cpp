@@ -33,16 +33,17 @@ Outcome shell(const std::string& line) {
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
 }
 
-std::string fileText(const std::string& path) {
-    const auto bytes = readFile(path);
-    return bytes ? std::string(textOf(*bytes)) : "(no file)";
-}
-
 }  // namespace
 
-TEST_CASE("the command reports what fails in one line and an exit code") {
+TEST_CASE("the command writes what was asked for, or one line and an exit code") {
     const testing::TemporaryFolder folder;
     REQUIRE(writeFileAtomically(folder / "bad.json", bytesOf("[1]")));
+    REQUIRE(writeFileAtomically(folder / "s.json", bytesOf(R"({"*": {"font-color": "red"}})")));
+    REQUIRE(writeFileAtomically(
+        folder / "s.plist",
+        bytesOf("<plist version=\"1.0\"><dict><key>*</key><dict><key>font-color</key>"
+                "<string>red</string></dict></dict></plist>")));
+    const std::string red = "\x1b[3;38;2;255;0;0ma\x1b[0m\n";
     struct Row {
         const char* line;
         int code;
@@ -56,6 +57,14 @@ TEST_CASE("the command reports what fails in one line and an exit code") {
         {"printf '![a](http://a.example/b.png)' | qznote render", 0, "[a 32x32]"},
         {"mkfifo pipe; (printf '**a**' > pipe &) && qznote render pipe", 0, "a"},
         {"printf '# a\\n- *b*\\n' | qznote outline", 0, "a\n  \u25CF b\n"},
+        {"printf '*a*' | qznote render --to ansi --style s.json", 0, red},
+        {"printf '*a*' | qznote render --to ansi --style s.plist", 0, red},
+        {"printf '*a*' > a.md; qznote render a.md -o a.html; grep '<title>' a.html", 0,
+         "<title>a</title>\n"},
+        {"printf '*a*' > a.md; qznote render a.md -o a.txt; cat a.txt", 0, "a"},
+        {"printf '# a\\n**b** **c** \\\\*d*\\n' | qznote detect", 0,
+         "escapes: 1\nheaders: 1\nbold: 2\ncontains rich text: yes\nis a list: no\n"
+         "is a table: no\nis a task outline: no\n"},
         {"printf 'a' > a.md; qznote outline a.md", 0, ""},
         {"qznote outline no-such-note.md", 1, "qznote: cannot read no-such-note.md\n"},
         {"echo '- a' | qznote outline > /dev/full", 1, "qznote: cannot write the output\n"},
@@ -85,37 +94,6 @@ TEST_CASE("the command reports what fails in one line and an exit code") {
     }
     CHECK(shell("qznote --help").output.starts_with("qznote shows notes"));
     CHECK(shell("qznote --help").code == 0);
-}
-
-TEST_CASE("style sheets are property lists or JSON") {
-    const testing::TemporaryFolder folder;
-    REQUIRE(writeFileAtomically(folder / "s.json", bytesOf(R"({"*": {"font-color": "#ff0000"}})")));
-    REQUIRE(writeFileAtomically(
-        folder / "s.plist",
-        bytesOf("<plist version=\"1.0\"><dict><key>*</key><dict><key>font-color</key>"
-                "<string>#ff0000</string></dict></dict></plist>")));
-    for (const char* sheet : {"s.json", "s.plist"}) {
-        CAPTURE(sheet);
-        const Outcome outcome =
-            shell("printf '*a*' | qznote render --to ansi --style '" + (folder / sheet) + "'");
-        CHECK(outcome.output == "\x1b[3;38;2;255;0;0ma\x1b[0m\n");
-    }
-}
-
-TEST_CASE("a file that is named as a page becomes one") {
-    const testing::TemporaryFolder folder;
-    REQUIRE(writeFileAtomically(folder / "my note.md", bytesOf("*a*")));
-    const std::string go = "cd '" + folder.path().string() + "'; ";
-    CHECK(shell(go + "qznote render 'my note.md' -o a.html").code == 0);
-    CHECK(shell(go + "qznote render 'my note.md' -o a.txt").code == 0);
-    CHECK(fileText(folder / "a.html").find("<title>my note</title>") != std::string::npos);
-    CHECK(fileText(folder / "a.txt") == "a");
-}
-
-TEST_CASE("detect counts constructs and answers for the whole note") {
-    CHECK(shell("printf '# a\\n**b** **c** \\\\*d*\\n' | qznote detect").output ==
-          "escapes: 1\nheaders: 1\nbold: 2\ncontains rich text: yes\nis a list: no\n"
-          "is a table: no\nis a task outline: no\n");
 }
 
 }  // namespace QZCore

@@ -14,29 +14,14 @@ TEST_CASE("JSON is read as values") {
 }
 
 TEST_CASE("what is no JSON text is no value") {
-    const std::string faults[] = {"",
-                                  " ",
-                                  "{",
-                                  "[1",
-                                  "[1,]",
-                                  "{\"a\"}",
-                                  "01",
-                                  "nul",
-                                  "\"a",
-                                  "\"\x01\"",
-                                  "[]x",
-                                  "{\"a\":1,}",
-                                  "'a'",
-                                  "\"\\ud800\"",
-                                  "\"\xff\"",
-                                  "1e999",
-                                  "// a",
-                                  std::string(513, '['),
-                                  std::string(513, '[') + std::string(513, ']')};
-    for (const std::string& fault : faults) {
-        CAPTURE(fault.substr(0, 20));
+    for (const char* fault :
+         {"", " ", "{", "[1", "[1,]", "{\"a\"}", "01", "nul", "\"a", "\"\x01\"", "[]x",
+          "{\"a\":1,}", "'a'", "\"\\ud800\"", "\"\xff\"", "1e999", "// a"}) {
+        CAPTURE(fault);
         CHECK(qznote::readJson(fault).isAbsent());
     }
+    CHECK(qznote::readJson(std::string(513, '[')).isAbsent());
+    CHECK(qznote::readJson(std::string(513, '[') + std::string(513, ']')).isAbsent());
     const std::string deepest = std::string(512, '[') + std::string(512, ']');
     CHECK(qznote::readJson(deepest).array() != nullptr);
 }
