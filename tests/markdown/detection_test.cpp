@@ -3,12 +3,14 @@
 #include <algorithm>
 
 #include "QZCore/codecs/parsing.h"
-#include "QZCore/platform/regex.h"
+#include "support/engine_matches.h"
 #include "support/printing.h"
 #include "support/random_texts.h"
 
 namespace QZCore {
 namespace {
+
+using testing::engineMatches;
 
 MarkdownSyntax syntaxWith(const Dictionary& settings) {
     return markdownSyntaxFromPreferences(Preferences(settings));
@@ -16,13 +18,8 @@ MarkdownSyntax syntaxWith(const Dictionary& settings) {
 
 // ---- The rules, carried out by the regular-expression engine ------------------
 
-std::vector<RegexMatch> matchesOf(const MarkdownExpression* row, StringView text) {
-    if (row == nullptr) return {};
-    return RegularExpression::compile(row->pattern(), row->options())->matchesInString(text);
-}
-
 bool isListByRule(StringView text, bool onlyOne, const MarkdownSyntax& syntax) {
-    const auto lists = matchesOf(syntax.expressionForKey(kMarkdownList), text);
+    const auto lists = engineMatches(syntax.expressionForKey(kMarkdownList), text);
     if (lists.empty()) return false;
     const Range list = lists.front().range();
     if (!onlyOne || list.length == text.size()) return true;
@@ -34,7 +31,7 @@ bool isListByRule(StringView text, bool onlyOne, const MarkdownSyntax& syntax) {
 }
 
 bool isTableByRule(StringView text, bool onlyOne, const MarkdownSyntax& syntax) {
-    const auto tables = matchesOf(syntax.expressionForKey(kMarkdownTable), text);
+    const auto tables = engineMatches(syntax.expressionForKey(kMarkdownTable), text);
     if (tables.empty()) return false;
     return !onlyOne || tables.front().range().length == text.size() ||
            text.find(u"\n\n") == StringView::npos;
@@ -47,7 +44,7 @@ bool containsByRule(StringView whole, std::uint32_t options, bool onlyOne,
     const String replaced = escape->stringByReplacingMatchesInString(whole, u"@@");
     const StringView text = trimmedOfWhitespaceAndNewlines(replaced);
     const auto isThere = [&](StringView key) {
-        return !matchesOf(syntax.expressionForKey(key), text).empty();
+        return !engineMatches(syntax.expressionForKey(key), text).empty();
     };
     if ((options & 1) != 0 && std::ranges::any_of(kMarkdownRichTextKeys, isThere)) return true;
     if ((options & 2) != 0) return isListByRule(text, onlyOne, syntax);

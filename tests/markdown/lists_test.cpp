@@ -93,6 +93,14 @@ TEST_CASE("an item inside an outline keeps its level, its number and its lists")
     CHECK(style(6).textLists == TextLists{{u"{disc}"}, {u"{decimal}"}});
     // Three markers of 6 points, two levels of 9 and the gap of 5.
     CHECK(style(6).headIndent == 3 * 6 + 2 * 9 + 5);
+
+    String ten;
+    for (int i = 0; i < 10; ++i) ten += u"1. a\n";
+    const RichText whole = richTextListFromMarkdown(RichText(ten), false, {});
+    written = {};
+    richTextListForNode(*listOutlineFromMarkdown(RichText(ten))->firstChild(), {}, {}, false, {},
+                        written);
+    CHECK(written == whole.attributedSubstringFromRange({0, written.length()}));
 }
 
 TEST_CASE("an outline as deep as there are nodes is written, in room for its nodes") {

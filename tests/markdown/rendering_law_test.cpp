@@ -1,7 +1,6 @@
 // Rendering against its rules, carried out one by one on the plainest form of a
 // text: expressions searched by the engine, matches edited from the last to the
 // first, one attribute set for each unit.
-#include <cstdlib>
 #include <random>
 
 #include "QZCore/codecs/parsing.h"
@@ -10,6 +9,7 @@
 #include "QZCore/platform/images.h"
 #include "markdown/link_target.h"
 #include "markdown/rendering_in_parts.h"
+#include "support/engine_matches.h"
 #include "support/font_scope.h"
 #include "support/markdown_settings.h"
 #include "support/plain_list.h"
@@ -74,10 +74,7 @@ private:
     // ---- What every pass does ----
 
     std::vector<RegexMatch> matchesOf(StringView key) const {
-        const MarkdownExpression* row = settings_.syntax().expressionForKey(key);
-        if (row == nullptr) return {};
-        return RegularExpression::compile(row->pattern(), row->options())
-            ->matchesInString(searched_);
+        return testing::engineMatches(settings_.syntax().expressionForKey(key), searched_);
     }
 
     template <class Edit>
@@ -383,22 +380,17 @@ private:
     std::mt19937 random_{20260102};
 };
 
-// QZCORE_EQUALITY_TEXTS asks for more texts than a quick run has time for.
-int numberOfTexts() {
-    const char* asked = std::getenv("QZCORE_EQUALITY_TEXTS");
-    return asked == nullptr ? 1500 : std::atoi(asked);
-}
-
 }  // namespace
 
 TEST_CASE("a note renders as its rules say when they are carried out one by one") {
     const testing::MadeUpFonts fonts;
     NoteMaker notes;
+    const int count = testing::equalityTexts(1500);
     for (const char* json : kSettings) {
         CAPTURE(json);
         const MarkdownSettings settings(json);
         int changed = 0;
-        for (int i = numberOfTexts(); i > 0; --i) {
+        for (int i = count; i > 0; --i) {
             const RichText note = notes.next();
             const RichText expected = PlainRendering(note, settings).result();
             RichText rendered = note;
@@ -412,7 +404,7 @@ TEST_CASE("a note renders as its rules say when they are carried out one by one"
             CHECK(qznote::runLines(rendered) == qznote::runLines(expected));
             REQUIRE(rendered == expected);
         }
-        CHECK(changed > numberOfTexts() / 2);
+        CHECK(changed > count / 2);
     }
 }
 

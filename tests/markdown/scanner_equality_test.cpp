@@ -1,12 +1,12 @@
 // The scanners against the regular expressions that define them.
 #include <algorithm>
-#include <cstdlib>
 #include <random>
 
 #include "QZCore/codecs/parsing.h"
 #include "QZCore/platform/regex.h"
 #include "markdown/scanner.h"
 #include "markdown/syntax_rows.h"
+#include "support/engine_matches.h"
 #include "support/exact_copy.h"
 #include "support/printing.h"
 
@@ -15,12 +15,6 @@ namespace QZCore {
 namespace {
 
 using testing::ExactCopy;
-
-// QZCORE_EQUALITY_TEXTS asks for more texts than a quick run has time for.
-int numberOfTexts() {
-    const char* asked = std::getenv("QZCORE_EQUALITY_TEXTS");
-    return asked == nullptr ? 20'000 : std::atoi(asked);
-}
 
 // The pieces that a row's pattern tells apart, with commas between.
 constexpr struct {
@@ -124,7 +118,7 @@ TEST_CASE("every scanner finds what its regular expression finds, groups include
         REQUIRE(expression->numberOfCaptureGroups() == row.numberOfGroups);
         TextMaker texts(row.scanner);
         std::size_t found = 0;
-        for (int i = numberOfTexts(); i > 0; --i) {
+        for (int i = testing::equalityTexts(20'000); i > 0; --i) {
             const ExactCopy copy(texts.next());
             const StringView text = copy;
             const auto expected = searchedRanges(*expression, text);

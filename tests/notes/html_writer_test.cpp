@@ -76,6 +76,9 @@ TEST_CASE("any rich text becomes a well-formed page that holds the same text") {
 
 TEST_CASE("constructs become the elements that mean them") {
     const testing::MadeUpFonts fonts;
+    const std::string code =
+        " style=\"font-family:'Mono',monospace;color:#000000;background-color:#f1f1f1;\"";
+    const std::string inset = "padding-inline-start:18pt;padding-inline-end:18pt;\"";
     const testing::TextRow<std::string> rows[] = {
         {"emphasis", u"a **b** *c* __d__ ~~e~~",
          "<p>a <strong>b</strong> <em>c</em> <u>d</u> <s>e</s></p>\n"},
@@ -83,21 +86,22 @@ TEST_CASE("constructs become the elements that mean them") {
          "<p><mark style=\"background-color:rgba(255,255,0,0.4);\">a <strong>b</strong> "
          "c</mark></p>\n"},
         {"an empty line", u"a\n\nb", "<p>a</p>\n<p></p>\n<p>b</p>\n"},
-        {"code on an opaque background", u"a `b`",
-         "<p>a <code style=\"font-family:'Mono',monospace;color:#000000;"
-         "background-color:#f1f1f1;\">b</code></p>\n"},
+        {"code on an opaque background", u"a `b`", "<p>a <code" + code + ">b</code></p>\n"},
         {"lines of code are one block", u"```\na\n\nb\n```\n",
-         "<pre style=\"font-family:'Mono',monospace;color:#000000;background-color:#f1f1f1;\">"
-         "<code>a\n\nb</code></pre>\n"},
+         "<pre" + code +
+             ">"
+             "<code>a\n\nb</code></pre>\n"},
         {"headings take their look from their first run", u"### a __b__",
          "<h3 style=\"font-size:18pt;margin-top:5pt;margin-bottom:2pt;\">a <u>b</u></h3>\n"},
         {"quotations", u"> a\n> b\n",
          "<blockquote dir=\"auto\">\n"
-         "<p "
-         "style=\"padding-bottom:10pt;padding-inline-start:18pt;padding-inline-end:18pt;\">a</p>\n"
-         "<p "
-         "style=\"margin-bottom:10pt;padding-inline-start:18pt;padding-inline-end:18pt;\">b</p>\n"
-         "</blockquote>\n"},
+         "<p style=\"padding-bottom:10pt;" +
+             inset +
+             ">a</p>\n"
+             "<p style=\"margin-bottom:10pt;" +
+             inset +
+             ">b</p>\n"
+             "</blockquote>\n"},
         {"bullets alternate", u"- a\n\t- b\n\t- c\n- d",
          "<ul dir=\"auto\">\n<li>a<ul dir=\"auto\" style=\"list-style-type:circle;\">\n"
          "<li>b</li>\n<li>c</li>\n</ul></li>\n<li>d</li>\n</ul>\n"},
@@ -107,9 +111,10 @@ TEST_CASE("constructs become the elements that mean them") {
         {"what belongs to an item", u"- a\n\t- b\n  (c)\n> 1\n- d\n\ne",
          "<ul dir=\"auto\">\n<li>a<ul dir=\"auto\" style=\"list-style-type:circle;\">\n"
          "<li>b<p>(c)</p><blockquote dir=\"auto\">\n"
-         "<p "
-         "style=\"margin-bottom:10pt;padding-inline-start:18pt;padding-inline-end:18pt;\">1</p>\n"
-         "</blockquote></li>\n</ul></li>\n<li>d</li>\n</ul>\n<p></p>\n<p>e</p>\n"},
+         "<p style=\"margin-bottom:10pt;" +
+             inset +
+             ">1</p>\n"
+             "</blockquote></li>\n</ul></li>\n<li>d</li>\n</ul>\n<p></p>\n<p>e</p>\n"},
         {"control characters and unpaired surrogates", u"a\x1b\xD800z", "<p>a\uFFFD\uFFFDz</p>\n"},
     };
     testing::checkRows(rows, [](StringView note) { return rendered(note); });

@@ -8,6 +8,7 @@
 
 #include "QZCore/markdown.h"
 #include "platform/letters.h"
+#include "support/engine_matches.h"
 #include "support/markdown_settings.h"
 
 namespace QZCore::testing {
@@ -65,8 +66,7 @@ private:
 
     void readLines(const RichText& list, const MarkdownExpression& listLine) {
         const String text = list.string();
-        const auto items = RegularExpression::compile(listLine.pattern(), listLine.options())
-                               ->matchesInString(text);
+        const auto items = engineMatches(&listLine, text);
         Node* parent = &root_;
         Node* last = &root_;
         std::size_t depth = 0;
