@@ -21,7 +21,9 @@ void QZStopwatch::stop() { stopTime_ = now(); }
 double QZStopwatch::seconds() const {
     constexpr double kNanosecondsPerSecond = 1'000'000'000;
     const std::uint64_t end = stopTime_ == 0 ? now() : stopTime_;
-    return static_cast<double>(static_cast<std::int64_t>(end - startTime_)) / kNanosecondsPerSecond;
+    const double nanoseconds = end < startTime_ ? -static_cast<double>(startTime_ - end)
+                                                : static_cast<double>(end - startTime_);
+    return nanoseconds / kNanosecondsPerSecond;
 }
 
 double QZStopwatchBlock(void (*block)()) {

@@ -50,6 +50,7 @@ TEST_CASE("seconds is the difference of whatever readings are set") {
         {"end before the start", 2'000'000'000, 1'000'000'000, -1.0},
         {"start in the future", 8'000'000'000, 0, -1.0},
         {"readings beyond 2^53 keep their nanoseconds", 1ULL << 60, (1ULL << 60) + 1, 1e-9},
+        {"more than half of the clock's range", 0, UINT64_MAX, 18446744073.709551616},
     };
     HandClock clock;
     clock.show(7'000'000'000);
