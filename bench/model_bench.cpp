@@ -170,6 +170,17 @@ void levelOfDeepest(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(nodes.back()->level());
 }
 
+/// From the first child of a wide tree to the last, and back.
+void walkSiblings(benchmark::State& state) {
+    const auto nodes = treeOf<Ours>(static_cast<std::size_t>(state.range(0)), Wide);
+    for (auto _ : state) {
+        auto node = nodes[1];
+        while (const auto next = node->nextSibling()) node = next;
+        while (const auto previous = node->previousSibling()) node = previous;
+        benchmark::DoNotOptimize(node);
+    }
+}
+
 // A bush of a hundred nodes and one of a million show the growth; the peers
 // that recurse see no chain.
 void sizes(benchmark::internal::Benchmark* bench) {
@@ -197,6 +208,8 @@ BENCHMARK(maxLevel<Ours, Bush>)->Name("tree maxLevel bush/QZCore")->Apply(sizes)
 BENCHMARK(maxLevel<Recursive, Bush>)->Name("tree maxLevel bush/shared_ptr")->Apply(sizes);
 BENCHMARK(maxLevel<Ours, Chain>)->Name("tree maxLevel chain/QZCore")->Apply(sizes);
 BENCHMARK(levelOfDeepest)->Name("tree level chain/QZCore")->Apply(sizes);
+
+BENCHMARK(walkSiblings)->Name("tree siblings wide/QZCore")->Apply(sizes);
 
 BENCHMARK(prune<Bush>)->Name("tree prune bush/QZCore")->Arg(kMillion)->Iterations(3);
 BENCHMARK(prune<Chain>)->Name("tree prune chain/QZCore")->Arg(kMillion)->Iterations(3);

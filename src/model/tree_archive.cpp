@@ -56,7 +56,8 @@ bool QZTreeNode::readFromCoder(ArchiveDecoder& coder) {
     if (!data || !children) return false;
     data_ = *std::move(data);
     if (children->isAbsent()) {
-        list_ = std::make_unique<ChildList>(ChildList{{}, true});
+        list_ = std::make_unique<ChildList>();
+        list_->isMissing = true;
         return true;
     }
     const auto nodes = nodesIn(*children);

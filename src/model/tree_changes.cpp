@@ -71,7 +71,7 @@ void QZTreeNode::removeChildrenIdenticalTo(const QZTreeNodes& nodes) {
         if (node != nullptr) node->parent_.reset();
     }
     if (!hasChildren()) return;
-    QZTreeNodes& list = list_->nodes;
+    QZTreeNodes& list = changeableChildren();
     const auto stays = [&table](const auto& child) { return !table.contains(child.get()); };
     const auto firstRemoved = std::stable_partition(list.begin(), list.end(), stays);
     const QZTreeNodes removed(std::make_move_iterator(firstRemoved),
@@ -81,7 +81,7 @@ void QZTreeNode::removeChildrenIdenticalTo(const QZTreeNodes& nodes) {
 
 void QZTreeNode::removeAllChildren() {
     if (!hasChildren()) return;
-    const QZTreeNodes removed = std::exchange(list_->nodes, {});
+    const QZTreeNodes removed = std::exchange(changeableChildren(), {});
     for (const auto& child : removed) child->parent_.reset();
 }
 

@@ -1,6 +1,5 @@
 #include "QZCore/model/tree_node.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "model/release_value.h"
@@ -30,31 +29,6 @@ std::shared_ptr<QZTreeNode> QZTreeNode::newNode() const { return treeNodeWithDat
 /// The node as its owners have it; empty when it has none.
 std::shared_ptr<QZTreeNode> QZTreeNode::shared() const {
     return std::const_pointer_cast<QZTreeNode>(weak_from_this().lock());
-}
-
-// ---- The list of children ----
-
-const QZTreeNodes& QZTreeNode::noChildren() {
-    static const QZTreeNodes& none = *new QZTreeNodes;
-    return none;
-}
-
-QZTreeNodes& QZTreeNode::changeableChildren() {
-    if (list_ == nullptr) list_ = std::make_unique<ChildList>();
-    return list_->nodes;
-}
-
-/// Takes `nodes` as the list. The one before goes when the new one is in place.
-void QZTreeNode::replaceList(QZTreeNodes nodes) {
-    std::erase(nodes, nullptr);
-    std::unique_ptr<ChildList> list;
-    if (!nodes.empty()) list = std::make_unique<ChildList>(ChildList{std::move(nodes)});
-    list_.swap(list);
-}
-
-void QZTreeNode::setChildren(const QZTreeNodes& nodes) {
-    if (&nodes != &children() || !hasList()) replaceList(nodes);
-    for (const auto& child : children()) child->parent_ = weak_from_this();
 }
 
 String QZTreeNode::description() const {

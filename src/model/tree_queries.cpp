@@ -8,14 +8,6 @@
 #include "model/tree_walk.h"
 
 namespace QZCore {
-namespace {
-
-std::size_t indexOf(QZTreeNodes::const_iterator found, const QZTreeNodes& list) {
-    return found == list.end() ? kNotFound : static_cast<std::size_t>(found - list.begin());
-}
-
-}  // namespace
-
 // ---- Children and siblings ----
 
 std::size_t QZTreeNode::indexOfChild(const std::shared_ptr<QZTreeNode>& child) const {
@@ -23,11 +15,13 @@ std::size_t QZTreeNode::indexOfChild(const std::shared_ptr<QZTreeNode>& child) c
     const auto isEqual = [&child](const auto& own) {
         return own == child || own->isEqualTo(*child);
     };
-    return indexOf(std::ranges::find_if(children(), isEqual), children());
+    const auto found = std::ranges::find_if(children(), isEqual);
+    return found == children().end() ? kNotFound
+                                     : static_cast<std::size_t>(found - children().begin());
 }
 
 std::size_t QZTreeNode::indexOfChildIdenticalTo(const std::shared_ptr<QZTreeNode>& child) const {
-    return indexOf(std::ranges::find(children(), child), children());
+    return list_ == nullptr ? kNotFound : list_->indexOf(child.get());
 }
 
 std::shared_ptr<QZTreeNode> QZTreeNode::childAtIndex(std::size_t index) const {

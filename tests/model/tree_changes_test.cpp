@@ -273,6 +273,35 @@ TEST_CASE("a list may be given to the node that it belongs to") {
     CHECK(textOf(root) == u"r(b b)");
 }
 
+TEST_CASE("children are found at their first places, however often they are looked for") {
+    std::mt19937 random(3);
+    const auto root = treeOf(u"r");
+    QZTreeNodes nodes;
+    for (std::size_t i = 0; i < 200; ++i) nodes.push_back(QZTreeNode::treeNodeWithData(i));
+    root->addChildren(nodes);
+    for (int round = 0; round < 200; ++round) {
+        CAPTURE(round);
+        const auto& node = nodes[random() % nodes.size()];
+        switch (random() % 5) {
+            case 0:
+                root->removeChild(node);
+                break;
+            case 1:
+                root->setChildren({nodes.begin(), nodes.begin() + random() % 200});
+                break;
+            default:  // often once more
+                root->insertChild(node, random() % (root->numberOfChildren() + 1));
+        }
+        const QZTreeNodes list = root->children();
+        for (const auto& wanted : nodes) {
+            const auto found = std::ranges::find(list, wanted);
+            const auto place = static_cast<std::size_t>(found - list.begin());
+            REQUIRE(root->indexOfChildIdenticalTo(wanted) ==
+                    (found == list.end() ? kNotFound : place));
+        }
+    }
+}
+
 TEST_CASE("children outlive their parent, without one") {
     auto root = treeOf(u"r(a(b))");
     const auto child = root->firstChild();

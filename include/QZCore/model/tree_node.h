@@ -9,7 +9,7 @@
 // else they do. A node that has been made its own descendant is a mistake of
 // the caller: walks end soon after they notice it, with incomplete results.
 //
-// A tree is used from one thread at a time.
+// A tree is used from one thread at a time, also where it is only read.
 #pragma once
 
 #include <cstddef>
@@ -325,11 +325,23 @@ private:
     [[nodiscard]] bool addChildrenDataToArray(Array& array) const;
     void addChildrenPropertyToArray(Array& array, PropertySelector withPropertySelector) const;
 
+    class ChildIndex;
+
     struct ChildList {
         QZTreeNodes nodes;
         // Only a node read from an archive without children has no list. It
         // takes none up until it is given a list as a whole.
         bool isMissing = false;
+        // Where the nodes are, once looking for them has proved worth it. Gone
+        // as soon as the list changes.
+        std::unique_ptr<ChildIndex> index;
+        std::size_t lookedAt = 0;
+
+        ChildList();
+        ~ChildList();
+        ChildList(const ChildList&) = delete;
+        ChildList& operator=(const ChildList&) = delete;
+        [[nodiscard]] std::size_t indexOf(const QZTreeNode* node);
     };
 
     [[nodiscard]] static const QZTreeNodes& noChildren();
