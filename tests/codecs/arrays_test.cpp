@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <set>
 
 #include "QZCore/foundation/dictionary.h"
 #include "support/printing.h"
@@ -40,12 +41,10 @@ bool holds(const Array& array, const Value& value, Sameness same) {
     return std::ranges::any_of(array, [&](const Value& e) { return same(e, value); });
 }
 
-enum class Keeps { WhatIsIn, WhatIsNotIn };
-
-Array filtered(const Array& array, const Array& objects, Sameness same, Keeps keeps) {
+Array filtered(const Array& array, const Array& objects, Sameness same, bool keepsWhatIsIn) {
     Array kept;
     for (const Value& element : array) {
-        if (holds(objects, element, same) == (keeps == Keeps::WhatIsIn)) kept.push_back(element);
+        if (holds(objects, element, same) == keepsWhatIsIn) kept.push_back(element);
     }
     return kept;
 }
@@ -69,15 +68,15 @@ TEST_CASE("removal by another array keeps what asking for each element keeps") {
     struct Row {
         Array (*removed)(const Array& array, const Array& objects);
         Sameness same;
-        Keeps keeps;
+        bool keepsWhatIsIn;
     };
     const Row rows[] = {
-        {inPlace<removeIdenticalObjectsInArray>, areIdentical, Keeps::WhatIsNotIn},
-        {inPlace<removeObjectsNotInArray>, areEqual, Keeps::WhatIsIn},
-        {inPlace<removeIdenticalObjectsNotInArray>, areIdentical, Keeps::WhatIsIn},
-        {arrayByRemovingObjectsInArray, areEqual, Keeps::WhatIsNotIn},
-        {arrayByRemovingIdenticalObjectsInArray, areIdentical, Keeps::WhatIsNotIn},
-        {arrayByRemovingIdenticalObjectsNotInArray, areIdentical, Keeps::WhatIsIn},
+        {inPlace<removeIdenticalObjectsInArray>, areIdentical, false},
+        {inPlace<removeObjectsNotInArray>, areEqual, true},
+        {inPlace<removeIdenticalObjectsNotInArray>, areIdentical, true},
+        {arrayByRemovingObjectsInArray, areEqual, false},
+        {arrayByRemovingIdenticalObjectsInArray, areIdentical, false},
+        {arrayByRemovingIdenticalObjectsNotInArray, areIdentical, true},
     };
     RandomArrays random;
     for (int round = 0; round < 3000; ++round) {
@@ -85,13 +84,13 @@ TEST_CASE("removal by another array keeps what asking for each element keeps") {
         const Array objects = random.next();
         for (const Row& row : rows) {
             REQUIRE(sameElements(row.removed(array, objects),
-                                 filtered(array, objects, row.same, row.keeps)));
+                                 filtered(array, objects, row.same, row.keepsWhatIsIn)));
         }
         if (objects.empty()) continue;
         REQUIRE(sameElements(arrayByRemovingObject(array, objects[0]),
-                             filtered(array, {objects[0]}, areEqual, Keeps::WhatIsNotIn)));
+                             filtered(array, {objects[0]}, areEqual, false)));
         REQUIRE(sameElements(arrayByRemovingIdenticalObject(array, objects[0]),
-                             filtered(array, {objects[0]}, areIdentical, Keeps::WhatIsNotIn)));
+                             filtered(array, {objects[0]}, areIdentical, false)));
     }
 }
 
@@ -107,16 +106,15 @@ TEST_CASE("finding the objects of another array is asking for each of them") {
                 std::ranges::any_of(objects, isInArray));
         REQUIRE(containsAllObjectsIdenticalTo(array, objects) ==
                 std::ranges::all_of(objects, isInArray));
-        Set indexes;
+        std::set<std::size_t> indexes;
         for (const Value& object : objects) {
             REQUIRE(containsObjectIdenticalTo(array, object) == isInArray(object));
-            const auto first = std::ranges::find(array, object);
-            if (first != array.end()) indexes.add(static_cast<int>(first - array.begin()));
+            const auto first = std::ranges::find(array, object) - array.begin();
+            indexes.insert(static_cast<std::size_t>(first));
         }
-        const auto found = indexesOfObjects(array, objects);
-        REQUIRE(std::ranges::is_sorted(found));
-        REQUIRE(Array(found.begin(), found.end()).size() == indexes.count());
-        for (const std::size_t index : found) REQUIRE(indexes.contains(index));
+        indexes.erase(array.size());  // not found
+        REQUIRE(indexesOfObjects(array, objects) ==
+                std::vector<std::size_t>(indexes.begin(), indexes.end()));
     }
 }
 
@@ -138,39 +136,31 @@ TEST_CASE("elements go by their class") {
     const Array all{u"text",
                     Data{1},
                     Date{1},
-                    Array{1},
                     URL{u"a:b"},
-                    Value::mutableArray({2}),
                     Set{1},
+                    Array{1},
                     Dictionary(),
+                    Value::mutableArray({2}),
                     Value::mutableDictionary({}),
                     true,
-                    1,
                     2U,
                     2.5,
                     Value(std::make_shared<const Box>()),
                     Value::boxed(Range{1, 2})};
     struct Row {
-        const char* why;
         ClassTest objectClass;
-        std::vector<std::size_t> indexes;
+        std::vector<std::size_t> indexes;  // last first
     };
     const Row rows[] = {
-        {"strings", isOfClass<String>, {0}},
-        {"data", isOfClass<Data>, {1}},
-        {"dates", isOfClass<Date>, {2}},
-        {"arrays, mutable ones too", isOfClass<Array>, {5, 3}},
-        {"URLs", isOfClass<URL>, {4}},
-        {"sets", isOfClass<Set>, {6}},
-        {"dictionaries, mutable ones too", isOfClass<Dictionary>, {8, 7}},
-        {"numbers of any kind", isOfClass<int>, {12, 11, 10, 9}},
-        {"objects of any type", isOfClass<Object>, {14, 13}},
-        {"objects of one type", isOfClass<Box>, {13}},
-        {"boxed values", isOfClass<Range>, {14}},
-        {"boxed values of no element", isOfClass<CodePoint>, {}},
+        {isOfClass<String>, {0}},        {isOfClass<Data>, {1}},
+        {isOfClass<Date>, {2}},          {isOfClass<URL>, {3}},
+        {isOfClass<Set>, {4}},           {isOfClass<Array>, {7, 5}},
+        {isOfClass<Dictionary>, {8, 6}}, {isOfClass<int>, {11, 10, 9}},
+        {isOfClass<Object>, {13, 12}},   {isOfClass<Box>, {12}},
+        {isOfClass<Range>, {13}},        {isOfClass<CodePoint>, {}},
     };
     for (const Row& row : rows) {
-        CAPTURE(row.why);
+        CAPTURE(&row - rows);
         Array expected = all;
         for (const std::size_t index : row.indexes) safeRemoveObjectAtIndex(expected, index);
         Array array = all;
@@ -193,9 +183,7 @@ TEST_CASE("a hundred thousand objects are looked for in as many at once") {
     CHECK(containsAllObjectsIdenticalTo(array, array));
     CHECK_FALSE(containsAnyObjectsIdenticalTo(array, equal));
     CHECK(arrayByRemovingObjectsInArray(array, equal).empty());
-    CHECK(arrayByRemovingIdenticalObjectsInArray(array, equal).size() == kCount);
     insertObjectsFromArray(equal, array, 50);
-    CHECK(equal.size() == 2 * kCount);
     removeObjectsNotInArray(equal, array);
     CHECK(equal.size() == 2 * kCount);
     removeIdenticalObjectsNotInArray(equal, array);

@@ -40,18 +40,14 @@ TEST_CASE("key-value texts give the pairs that fit, and pass over the others") {
     };
     const Row rows[] = {
         {"one pair, too many signs, no sign", query(u"a=1&b=2=3&c"), {{u"a", u"1"}}},
-        {"empty query", query(u""), {}},
         {"empty keys and values", query(u"=&a=&=1"), {{u"", u"1"}, {u"a", u""}}},
         {"a later key replaces", query(u"a=1&b=2&a=3"), {{u"a", u"3"}, {u"b", u"2"}}},
         {"nothing trimmed or decoded", query(u" a = %20+"), {{u" a ", u" %20+"}}},
-        {"query separators alone", query(u"&&=&==&"), {{u"", u""}}},
         {"unpaired surrogates", query(u"\xD800=\xDC00"), {{u"\xD800", u"\xDC00"}}},
 
         {"an empty value", pairs(u" a : 1 ; b : ; c : 3"), {{u"a", u"1"}, {u"c", u"3"}}},
-        {"empty keys", pairs(u":1;\t :2"), {}},
+        {"an empty key, too many signs", pairs(u"\t :2;a:1:2;a:3; a :4"), {{u"a", u"4"}}},
         {"inner blanks and line ends", pairs(u"a b\t:\u00A0c\n;"), {{u"a b", u"c\n"}}},
-        {"too many signs", pairs(u"a:1:2;b:3"), {{u"b", u"3"}}},
-        {"a later trimmed key replaces", pairs(u"a:1; a :2"), {{u"a", u"2"}}},
         {"long separators", pairs(u"a->1||b->2", u"->", u"||"), {{u"a", u"1"}, {u"b", u"2"}}},
         {"overlapping separators", pairs(u"a:::1", u"::"), {{u"a", u":1"}}},
         {"an empty pair separator", pairs(u"a:1", u":", u""), {{u"a", u"1"}}},
@@ -60,11 +56,8 @@ TEST_CASE("key-value texts give the pairs that fit, and pass over the others") {
         {"by turns", turns(u"a|1|b|2"), {{u"a", u"1"}, {u"b", u"2"}}},
         {"a separator at the start", turns(u"|a|1"), {{u"a", u"1"}}},
         {"only the first of them", turns(u"||a"), {{u"", u"a"}}},
-        {"a separator at the end", turns(u"a|"), {{u"a", u""}}},
         {"an odd number", turns(u"a|1|b"), {}},
-        {"turns are not trimmed", turns(u" a | 1"), {{u" a ", u" 1"}}},
         {"an empty text", turns(u""), {}},
-        {"the separator alone", turns(u"|"), {}},
         {"an empty separator", turns(u"ab", u""), {}},
     };
     for (const Row& row : rows) {
@@ -81,8 +74,11 @@ TEST_CASE("an array of keys and values by turns") {
     CHECK(dictionaryWithKeyObjectArray({u"a", Value(), Value(), 1}).empty());
     const Value key = Value::mutableArray({1});
     const Dictionary made = dictionaryWithKeyObjectArray({key, 1});
-    key.mutableArray()->clear();
+    Dictionary merged;
+    mergeWithDictionary(merged, {{key, 1}});
+    key.mutableArray()->clear();  // a stored key cannot change
     CHECK(made == Dictionary{{Array{1}, 1}});
+    CHECK(merged == made);
 }
 
 TEST_CASE("pairs that were read can be joined and read again") {
@@ -113,22 +109,12 @@ TEST_CASE("keys are found by an equal or the very same value") {
 }
 
 TEST_CASE("a subset is unchanged when every value is equal") {
-    struct Row {
-        const char* why;
-        Dictionary dictionary, other;
-        bool isSubset;
-    };
-    const Row rows[] = {
-        {"nothing of nothing", {}, {}, true},
-        {"nothing of something", {}, {{u"a", 1}}, true},
-        {"more keys in the other", {{u"a", Array{1}}}, {{u"b", 2}, {u"a", Array{1}}}, true},
-        {"another value", {{u"a", 1}}, {{u"a", 2}}, false},
-        {"a missing key", {{u"a", 1}, {u"b", 2}}, {{u"a", 1}}, false},
-    };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(isUnchangedSubsetOf(row.dictionary, row.other) == row.isSubset);
-    }
+    const Dictionary whole{{u"b", 2}, {u"a", Array{1}}};
+    CHECK(isUnchangedSubsetOf({}, {}));
+    CHECK(isUnchangedSubsetOf({}, whole));
+    CHECK(isUnchangedSubsetOf({{u"a", Array{1}}}, whole));
+    CHECK_FALSE(isUnchangedSubsetOf({{u"a", Array{2}}}, whole));
+    CHECK_FALSE(isUnchangedSubsetOf(whole, {{u"a", Array{1}}}));
 }
 
 TEST_CASE("a merged dictionary holds both, and the argument wins") {
@@ -169,14 +155,13 @@ TEST_CASE("only mutable nested dictionaries are merged") {
     CHECK(list == Value(Array{1}));
     mergeWithDictionary(target, {{u"open", 1}});
     CHECK(target.objectForKey(u"open") == Value(1));
-}
 
-TEST_CASE("a new key is stored as nobody can change it") {
-    const Value key = Value::mutableArray({1});
-    Dictionary target;
-    mergeWithDictionary(target, {{key, 1}});
-    key.mutableArray()->clear();
-    CHECK(target == Dictionary{{Array{1}, 1}});
+    // One dictionary under several keys takes them in order.
+    const Value shared = Value::mutableDictionary({});
+    const Value first = Dictionary{{u"x", 1}};
+    target = {{u"a", shared}, {u"b", shared}, {u"c", shared}};
+    mergeWithDictionary(target, {{u"a", first}, {u"b", Dictionary{{u"x", 2}}}, {u"c", first}});
+    CHECK(shared == first);
 }
 
 TEST_CASE("dictionaries that are deep, shared or inside themselves are merged to an end") {
@@ -209,14 +194,6 @@ TEST_CASE("dictionaries that are deep, shared or inside themselves are merged to
     Dictionary target{{u"a", shared}};
     mergeWithDictionary(target, {{u"a", twice}});
     CHECK(Value(target) == Value(Dictionary{{u"a", twice}}));
-}
-
-TEST_CASE("one mutable dictionary under several keys takes them in order") {
-    const Value shared = Value::mutableDictionary({});
-    Dictionary target{{u"a", shared}, {u"b", shared}, {u"c", shared}};
-    const Value first = Dictionary{{u"x", 1}};
-    mergeWithDictionary(target, {{u"a", first}, {u"b", Dictionary{{u"x", 2}}}, {u"c", first}});
-    CHECK(shared == first);
 }
 
 TEST_CASE("keys and values change places, and back") {

@@ -6,65 +6,41 @@
 
 namespace QZCore {
 
-TEST_CASE("dictionaries and arrays become data and back") {
+TEST_CASE("dictionaries and arrays become data and back, and cannot be changed then") {
     const testing::LogCapture log;
     testing::RandomValues random(8);
     for (int round = 0; round < 200; ++round) {
-        const Array array{random.tree(3), random.tree(3)};
+        const Array array{random.tree(3), Value::mutableArray({random.tree(2)})};
         const Dictionary dictionary{{u"a", array}, {random.text(), random.tree(3)}};
-        const auto arrayData = dataRepresentation(array);
-        const auto dictionaryData = dataRepresentation(dictionary);
-        REQUIRE(arrayData.has_value());
-        REQUIRE(dictionaryData.has_value());
-        REQUIRE(arrayWithData(*arrayData) == array);
-        REQUIRE(dictionaryWithData(*dictionaryData) == dictionary);
+        const auto readArray = arrayWithData(dataRepresentation(array).value());
+        REQUIRE(readArray == array);
+        REQUIRE(readArray->back().mutableArray() == nullptr);
+        REQUIRE(dictionaryWithData(dataRepresentation(dictionary).value()) == dictionary);
     }
     CHECK(log.lines().empty());
 }
 
-TEST_CASE("data that are no list of the kind give nothing and one log line") {
-    struct Row {
-        std::string_view bytes;
-        StringView reason;
-    };
-    const Row rows[] = {
-        {"<plist><string>a</string></plist>", u""},
-        {"<plist>\n<true>1</true></plist>", u"line 2: a text inside a boolean"},
-        {"", u"line 1: no element found"},
-        {"bplist00", u"the parts of the binary list do not fit together"},
-    };
-    for (const Row& row : rows) {
-        CAPTURE(row.bytes);
+TEST_CASE("what cannot be converted gives nothing and one log line") {
+    using Lines = std::vector<String>;
+    for (const std::string_view bytes : {"", "bplist00", "<plist><string>a</string></plist>"}) {
+        CAPTURE(bytes);
+        const bool isOfAnotherKind = bytes.starts_with("<");
+        const String reason = bytes.empty() ? u"line 1: no element found"
+                                            : u"the parts of the binary list do not fit together";
         const testing::LogCapture log;
-        CHECK(dictionaryWithData(bytesOf(row.bytes)) == std::nullopt);
-        CHECK(arrayWithData(bytesOf(row.bytes)) == std::nullopt);
-        const auto reasonOr = [&](StringView otherKind) {
-            return String(row.reason.empty() ? otherKind : row.reason);
-        };
-        CHECK(log.lines() == std::vector{u"Error converting data to NSDictionary: " +
-                                             reasonOr(u"the list is no dictionary"),
-                                         u"Error converting data to NSArray: " +
-                                             reasonOr(u"the list is no array")});
+        CHECK(dictionaryWithData(bytesOf(bytes)) == std::nullopt);
+        CHECK(arrayWithData(bytesOf(bytes)) == std::nullopt);
+        CHECK(log.lines() == Lines{u"Error converting data to NSDictionary: " +
+                                       (isOfAnotherKind ? u"the list is no dictionary" : reason),
+                                   u"Error converting data to NSArray: " +
+                                       (isOfAnotherKind ? u"the list is no array" : reason)});
     }
-}
-
-TEST_CASE("what no property list holds gives no data and one log line") {
     const testing::LogCapture log;
     CHECK(dataRepresentation(Dictionary{{u"a", u"\u0001"}}) == std::nullopt);
     CHECK(dataRepresentation(Array{u"\u0001"}) == std::nullopt);
+    const String reason = u" to data: a text with characters that XML cannot hold";
     CHECK(log.lines() ==
-          std::vector<String>{u"Error converting NSDictionary to data: a text with characters that "
-                              u"XML cannot hold",
-                              u"Error converting NSArray to data: a text with characters that XML "
-                              u"cannot hold"});
-}
-
-TEST_CASE("what is read cannot be changed") {
-    const auto read = dictionaryWithData(
-        bytesOf("<plist><dict><key>a</key><dict/><key>b</key><array/></dict></plist>"));
-    REQUIRE(read.has_value());
-    CHECK(read->objectForKey(u"a").mutableDictionary() == nullptr);
-    CHECK(read->objectForKey(u"b").mutableArray() == nullptr);
+          Lines{u"Error converting NSDictionary" + reason, u"Error converting NSArray" + reason});
 }
 
 }  // namespace QZCore

@@ -66,20 +66,15 @@ TEST_CASE("what is written reads back, also from data") {
     setUnsignedInteger(written, UINT64_MAX, u"unsigned integer");
     setFloat(written, 0.1F, u"float");
     setDouble(written, -5e-324, u"double");
-    const auto data = dataRepresentation(written);
-    REQUIRE(data.has_value());
-    const auto restored = dictionaryWithData(*data);
-    REQUIRE(restored.has_value());
-    for (const Dictionary& dictionary : {written, *restored}) {
-        CHECK(dictionary.objectForKey(u"boolean").kind() == ValueKind::Boolean);
-        CHECK(boolForKey(dictionary, u"boolean"));
-        CHECK(intForKey(dictionary, u"int") == INT32_MIN);
-        CHECK(unsignedIntForKey(dictionary, u"unsigned int") == UINT32_MAX);
-        CHECK(integerForKey(dictionary, u"integer") == INT64_MIN);
-        CHECK(unsignedIntegerForKey(dictionary, u"unsigned integer") == UINT64_MAX);
-        CHECK(floatForKey(dictionary, u"float") == 0.1F);
-        CHECK(doubleForKey(dictionary, u"double") == -5e-324);
-    }
+    const auto restored = dictionaryWithData(dataRepresentation(written).value());
+    REQUIRE(restored == written);
+    CHECK(restored->objectForKey(u"boolean").isIdentical(true));
+    CHECK(intForKey(*restored, u"int") == INT32_MIN);
+    CHECK(unsignedIntForKey(*restored, u"unsigned int") == UINT32_MAX);
+    CHECK(integerForKey(*restored, u"integer") == INT64_MIN);
+    CHECK(unsignedIntegerForKey(*restored, u"unsigned integer") == UINT64_MAX);
+    CHECK(floatForKey(*restored, u"float") == 0.1F);
+    CHECK(doubleForKey(*restored, u"double") == -5e-324);
 }
 
 }  // namespace QZCore

@@ -7,7 +7,7 @@
 
 namespace QZCore {
 
-TEST_CASE("a pair holds what it is given and compares by identity") {
+TEST_CASE("a pair holds what it is given, compares by identity, and stands in a value") {
     const auto pair = QZPair::pairWithKey(u"key", 7);
     CHECK(pair->key() == Value(u"key"));
     CHECK(pair->value() == Value(7));
@@ -17,15 +17,9 @@ TEST_CASE("a pair holds what it is given and compares by identity") {
     CHECK(pair->value() == Value(u"other"));
     CHECK(Value(pair) == Value(pair));
     CHECK(Value(pair) != Value(QZPair::pairWithKey(Value(), u"other")));
-}
-
-TEST_CASE("a value gives back the very object that was put into it") {
-    const auto pair = QZPair::pairWithKey(1, 2);
-    const Value value(pair);
-    CHECK(objectIn<QZPair>(value) == pair);
-    CHECK(objectIn<CopyableObject>(value) == nullptr);
+    CHECK(objectIn<QZPair>(Value(pair)) == pair);
+    CHECK(objectIn<CopyableObject>(Value(pair)) == nullptr);
     CHECK(objectIn<QZPair>(Value(u"text")) == nullptr);
-    CHECK(objectIn<QZPair>(Value()) == nullptr);
 }
 
 TEST_CASE("the copy of a value cannot change") {

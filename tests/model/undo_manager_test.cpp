@@ -26,16 +26,6 @@ private:
     String title_;
 };
 
-void makeGroup(UndoManager& manager, const std::vector<Note*>& notes, const String& title) {
-    manager.beginUndoGrouping();
-    for (Note* note : notes) note->setTitle(title);
-    manager.endUndoGrouping();
-}
-
-const String kCorrupted =
-    u"; undo stack is probably corrupted so automatically closing all open groups and removing all "
-    u"stored actions so an undo to beginning of session won't occur";
-
 }  // namespace
 
 TEST_CASE("undoing and redoing walks through the states of a document") {
@@ -73,39 +63,21 @@ TEST_CASE("undoing and redoing walks through the states of a document") {
     }
 }
 
-TEST_CASE("a step is what the outermost group holds, or one action outside of groups") {
+TEST_CASE("a group without actions is no step, and nothing is undone while one is open") {
     UndoManager manager;
     Note note(manager);
     manager.beginUndoGrouping();
     manager.endUndoGrouping();
-    CHECK_FALSE(manager.canUndo());  // nothing in the group
-
-    note.setTitle(u"a");
-    note.setTitle(u"b");
+    CHECK_FALSE(manager.canUndo());
+    note.setTitle(u"a");  // outside of groups, so a step of its own
     manager.beginUndoGrouping();
-    makeGroup(manager, {&note, &note}, u"c");
-    note.setTitle(u"d");
-    manager.undo();
-    CHECK(note.title() == u"d");  // not while a group is open
-    manager.endUndoGrouping();
-    manager.endUndoGrouping();
-    CHECK(manager.groupingLevel() == 0);
-    manager.undo();
-    CHECK(note.title() == u"b");
-    manager.undo();
-    CHECK(note.title() == u"a");
-}
-
-TEST_CASE("a new action ends what can be redone") {
-    UndoManager manager;
-    Note note(manager);
-    note.setTitle(u"a");
-    manager.undo();
-    REQUIRE(manager.canRedo());
     note.setTitle(u"b");
-    CHECK_FALSE(manager.canRedo());
+    manager.undo();
     manager.redo();
     CHECK(note.title() == u"b");
+    manager.endUndoGrouping();
+    manager.undo();
+    CHECK(note.title() == u"a");
 }
 
 TEST_CASE("names go with their steps, through undo and redo") {
@@ -150,10 +122,8 @@ TEST_CASE("nothing is registered while registration is off") {
 TEST_CASE("the oldest steps beyond the limit are forgotten") {
     UndoManager manager;
     Note note(manager);
-    const char16_t* const titles[] = {u"1", u"2", u"3", u"4", u"5"};
-    for (const char16_t* title : titles) note.setTitle(title);
+    for (const char16_t* title : {u"1", u"2", u"3", u"4", u"5"}) note.setTitle(title);
     manager.setLevelsOfUndo(3);
-    CHECK(manager.levelsOfUndo() == 3);
     for (int i = 0; i < 5; ++i) manager.undo();
     CHECK(note.title() == u"2");
     manager.setLevelsOfUndo(1);
@@ -170,7 +140,10 @@ TEST_CASE("removing actions leaves level and steps consistent") {
     UndoManager manager;
     Note kept(manager);
     Note removed(manager);
-    makeGroup(manager, {&kept, &removed}, u"a");
+    manager.beginUndoGrouping();
+    kept.setTitle(u"a");
+    removed.setTitle(u"a");
+    manager.endUndoGrouping();
     removed.setTitle(u"b");
     manager.beginUndoGrouping();
     removed.setTitle(u"c");
@@ -182,11 +155,11 @@ TEST_CASE("removing actions leaves level and steps consistent") {
     CHECK(removed.title() == u"c");
     CHECK_FALSE(manager.canUndo());
 
-    manager.redo();
     manager.beginUndoGrouping();
     kept.setTitle(u"d");
     manager.removeAllActions();
     CHECK(manager.groupingLevel() == 1);
+    CHECK_FALSE(manager.canRedo());
     kept.setTitle(u"e");
     manager.endUndoGrouping();
     manager.undo();
@@ -268,37 +241,38 @@ TEST_CASE("ending a group that was not begun is logged and does nothing") {
 
 TEST_CASE("undo with open groups forgets everything and undoes nothing") {
     struct Row {
-        const char* why;
         const char16_t* nameBefore;
         const char16_t* nameInside;
-        int levels;
-        String line;
+        std::size_t levels;
+        const char16_t* line;
     };
     const Row rows[] = {
-        {"named in the group", u"", u"Typing", 2, u"Undo 'Typing' called with 2 open groups"},
-        {"only the step before is named", u"Paste", u"", 1,
-         u"Undo 'Paste' called with 1 open groups"},
-        {"no names", u"", u"", 1, u"Undo '' called with 1 open groups"},
+        {u"", u"Typing", 2, u"Undo 'Typing' called with 2 open groups"},
+        {u"Paste", nullptr, 1, u"Undo 'Paste' called with 1 open groups"},
     };
     for (const Row& row : rows) {
-        CAPTURE(row.why);
         const LogCapture log;
         QZSmartUndoManager manager;
         Note note(manager);
         note.setTitle(u"a");
         manager.setActionName(row.nameBefore);
-        for (int i = 0; i < row.levels; ++i) manager.beginUndoGrouping();
-        if (*row.nameInside != 0) {
+        while (manager.groupingLevel() < row.levels) manager.beginUndoGrouping();
+        if (row.nameInside != nullptr) {
             note.setTitle(u"b");
             manager.setActionName(row.nameInside);
         }
         const String title = note.title();
         manager.undo();
+        CHECK(log.lines() ==
+              std::vector<String>{
+                  row.line +
+                  String(u"; undo stack is probably corrupted so automatically closing all open "
+                         u"groups and removing all stored actions so an undo to beginning of "
+                         u"session won't occur")});
         CHECK(note.title() == title);
         CHECK(manager.groupingLevel() == 0);
         CHECK_FALSE(manager.canUndo());
         CHECK_FALSE(manager.canRedo());
-        CHECK(log.lines() == std::vector<String>{row.line + kCorrupted});
         note.setTitle(u"c");
         manager.undo();
         CHECK(note.title() == title);
