@@ -1,5 +1,6 @@
+#include <algorithm>
+
 #include "QZCore/foundation/dictionary.h"
-#include "QZCore/model/pair.h"
 #include "QZCore/model/tree_node.h"
 #include "support/log_capture.h"
 #include "support/printing.h"
@@ -12,16 +13,23 @@ using namespace testing;
 
 const char16_t* const kTree = u"a(b(c(d) -) e -(f))";
 
-/// The datum, as a word that knows its letter.
-struct Word {
-    String letter;
-    bool operator==(const Word&) const = default;
-};
+const std::optional<Array> kNone;
 
-const auto kLetter = [](const Value& datum) {
-    const Word* word = datum.boxedValue<Word>();
-    return word == nullptr || word->letter.empty() ? Value() : Value(word->letter);
-};
+void addInOrder(const NodeRef& node, QZTreeNodes& nodes) {
+    nodes.push_back(node);
+    for (const auto& child : node->children()) addInOrder(child, nodes);
+}
+
+template <class Matches>
+NodeRef firstWith(const QZTreeNodes& nodes, Matches matches) {
+    const auto found = std::ranges::find_if(nodes, matches, &QZTreeNode::data);
+    return found == nodes.end() ? nullptr : *found;
+}
+
+std::optional<Array> joined(Array first, const Array& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
 
 }  // namespace
 
@@ -77,63 +85,50 @@ TEST_CASE("a description is the datum's in braces") {
     node->setData(Value());
 }
 
-TEST_CASE("searches take the first match, depth first") {
-    const auto root = treeOf(u"-(a(c) - b c(d))");
-    CHECK(root->nodeWithData(u"c") == root->firstChild()->firstChild());
-    CHECK(root->nodeWithData(u"x") == nullptr);
-    CHECK(root->nodeWithData(Value()) == nullptr);
-    CHECK(root->nodeWithDataIdenticalTo(Value()) == root);
-    CHECK(root->firstChild()->nodeWithDataIdenticalTo(Value()) == nullptr);
+TEST_CASE("searches and collections go through a tree depth first") {
+    const Value letter = u"a";
+    const Value pool[] = {Value(), letter, u"a", u"b", 7};
+    const auto textIn = [](const Value& datum) {
+        CHECK_FALSE(datum.isAbsent());
+        return datum.string() == nullptr ? Value() : datum;
+    };
+    std::mt19937 random(4);
+    for (int round = 0; round < 500; ++round) {
+        const auto root = randomTree(random, 1 + random() % 8, 4).front();
+        QZTreeNodes nodes;
+        addInOrder(root, nodes);
+        for (const auto& node : nodes) node->setData(pool[random() % std::size(pool)]);
+        CAPTURE(textOf(root));
+        for (const Value& wanted : pool) {
+            const auto isEqual = [&wanted](const Value& datum) { return datum == wanted; };
+            const auto isSame = [&wanted](const Value& datum) { return datum.isIdentical(wanted); };
+            const bool isText = wanted.string() != nullptr;
+            const NodeRef equal = wanted.isAbsent() ? nullptr : firstWith(nodes, isEqual);
+            const NodeRef same = firstWith(nodes, isSame);
+            REQUIRE(root->nodeWithData(wanted) == equal);
+            REQUIRE(root->nodeWithDataIdenticalTo(wanted) == same);
+            REQUIRE(root->nodeWithDataProperty(wanted, textIn) == (isText ? equal : nullptr));
+            REQUIRE(root->nodeWithDataPropertyIdenticalTo(wanted, textIn) ==
+                    (isText ? same : nullptr));
+        }
 
-    const auto second = root->lastChild();
-    CHECK(root->nodeWithDataIdenticalTo(second->data()) == second);
-    CHECK(root->nodeWithDataIdenticalTo(u"c") == nullptr);  // equal is not enough
-    second->setData(7);
-    CHECK(root->nodeWithDataIdenticalTo(7) == second);
-    CHECK(root->nodeWithData(7.0) == second);
-}
-
-TEST_CASE("properties are read by an accessor") {
-    const auto root = treeOf(u"-(a(b - c) d)");
-    const QZTreeNodes nodes = root->allChildrenRecursively();
-    for (const auto& node : nodes) {
-        if (!node->data().isAbsent()) node->setData(Value::boxed(Word{node->data().stringValue()}));
+        const QZTreeNodes below(nodes.begin() + 1, nodes.end());
+        const Array data = QZTreeNode::dataArrayFromNodes(below);
+        const bool isComplete = data.size() == below.size();
+        Array texts = data;
+        std::erase_if(texts, [](const Value& datum) { return datum.string() == nullptr; });
+        REQUIRE(root->allChildrenRecursively() == below);
+        REQUIRE(root->allChildrenDataRecursively() == (isComplete ? std::optional(data) : kNone));
+        REQUIRE(root->allChildrenRecursivelyWithPropertySelector(textIn) == texts);
+        // Only the node itself is filtered.
+        const Array own = QZTreeNode::dataArrayFromNodes({root});
+        const bool hasText = own.empty() || own[0].string() != nullptr;
+        REQUIRE(root->allNodesWithDataRecursively() == (own.empty() ? below : nodes));
+        REQUIRE(root->allNodesDataWithDataRecursively() ==
+                (isComplete ? joined(own, data) : kNone));
+        REQUIRE(root->allNodesWithDataWithPropertySelector(textIn) ==
+                (hasText ? joined(own, texts) : kNone));
     }
-    const auto& b = nodes[1];
-    CHECK(root->nodeWithDataProperty(u"b", kLetter) == b);
-    CHECK(root->nodeWithDataProperty(u"x", kLetter) == nullptr);
-    CHECK(root->nodeWithDataPropertyIdenticalTo(u"b", kLetter) == nullptr);
-    CHECK(root->nodeWithDataPropertyIdenticalTo(Value(), kLetter) == nullptr);
-    CHECK(root->allNodesWithDataWithPropertySelector(kLetter) == Array{u"a", u"b", u"c", u"d"});
-
-    const Value shared(u"shared");
-    const auto sameForAll = [&shared](const Value&) { return shared; };
-    CHECK(root->nodeWithDataPropertyIdenticalTo(shared, sameForAll) == root->firstChild());
-
-    b->setData(Value::boxed(Word{}));  // no letter
-    CHECK(root->nodeWithDataProperty(Value(), kLetter) == nullptr);
-    CHECK(root->allChildrenRecursivelyWithPropertySelector(kLetter) == Array{u"a", u"c", u"d"});
-    CHECK(b->allNodesWithDataWithPropertySelector(kLetter) == std::nullopt);
-    root->setData(Value::boxed(Word{u"r"}));
-    CHECK(root->allNodesWithDataWithPropertySelector(kLetter) == Array{u"r", u"a", u"c", u"d"});
-}
-
-TEST_CASE("collections hold descendants in order; only the node itself is filtered") {
-    const auto complete = treeOf(u"a(b(c) d)");
-    CHECK(namesOf(complete->allChildrenRecursively()) == u"bcd");
-    CHECK(complete->allChildrenDataRecursively() == Array{u"b", u"c", u"d"});
-    CHECK(namesOf(complete->allNodesWithDataRecursively()) == u"abcd");
-    CHECK(complete->allNodesDataWithDataRecursively() == Array{u"a", u"b", u"c", u"d"});
-
-    complete->setData(Value());
-    CHECK(namesOf(complete->allNodesWithDataRecursively()) == u"bcd");
-    CHECK(complete->allNodesDataWithDataRecursively() == Array{u"b", u"c", u"d"});
-
-    const auto gap = treeOf(u"a(-(c) d)");
-    CHECK(namesOf(gap->allNodesWithDataRecursively()) == u"a-cd");
-    CHECK(gap->allChildrenDataRecursively() == std::nullopt);
-    CHECK(gap->allNodesDataWithDataRecursively() == std::nullopt);
-    CHECK(treeOf(u"-")->allChildrenDataRecursively() == Array());
 }
 
 TEST_CASE("pruning counts levels from the root of the whole tree") {
