@@ -11,26 +11,21 @@
 namespace QZCore {
 namespace {
 
-/// Arrays of values of which some are equal and some of those identical.
-class RandomArrays {
-public:
-    Array next() {
-        Array array(random_() % 12);
-        for (Value& element : array) element = pool_[random_() % pool_.size()];
-        return array;
-    }
-
-private:
-    const Array pool_{u"a",     u"a",         u"b",
-                      Data{1},  Data{1},      Array{1},
-                      Array{1}, Array{2},     Value::mutableArray({1}),
-                      Set{1},   Set{1},       Dictionary{{u"a", 1}},
-                      1,        1.0,          Dictionary{{u"a", 1}},
-                      0.0,      -0.0,         Value::boxed(Date{1}),
-                      true,     Date{0},      Value::boxed(Date{1}),
-                      Value(),  std::nan(""), Date{std::nan("")}};
-    std::mt19937 random_{11};
-};
+/// An array of values of which some are equal and some of those identical.
+Array randomArray(std::mt19937& random) {
+    static const Value boxed[] = {Value::boxed(Date{1}), Value::boxed(Date{1})};
+    static const Array pool{u"a",         u"a",        u"b",
+                            Data(1),      Data(1),     Array(1),
+                            Array(1),     Array(2),    Value::mutableArray(Array(1)),
+                            Set(),        Set(),       Dictionary(),
+                            Dictionary(), 1,           1.0,
+                            0.0,          -0.0,        true,
+                            Date(),       boxed[0],    boxed[1],
+                            Value(),      std::nan("")};
+    Array array(random() % 12);
+    for (Value& element : array) element = pool[random() % pool.size()];
+    return array;
+}
 
 using Sameness = bool (*)(const Value&, const Value&);
 
@@ -78,10 +73,10 @@ TEST_CASE("removal by another array keeps what asking for each element keeps") {
         {arrayByRemovingIdenticalObjectsInArray, areIdentical, false},
         {arrayByRemovingIdenticalObjectsNotInArray, areIdentical, true},
     };
-    RandomArrays random;
+    std::mt19937 random(11);
     for (int round = 0; round < 3000; ++round) {
-        const Array array = random.next();
-        const Array objects = random.next();
+        const Array array = randomArray(random);
+        const Array objects = randomArray(random);
         for (const Row& row : rows) {
             REQUIRE(sameElements(row.removed(array, objects),
                                  filtered(array, objects, row.same, row.keepsWhatIsIn)));
@@ -95,10 +90,10 @@ TEST_CASE("removal by another array keeps what asking for each element keeps") {
 }
 
 TEST_CASE("finding the objects of another array is asking for each of them") {
-    RandomArrays random;
+    std::mt19937 random(11);
     for (int round = 0; round < 3000; ++round) {
-        const Array array = random.next();
-        const Array objects = random.next();
+        const Array array = randomArray(random);
+        const Array objects = randomArray(random);
         const auto isInArray = [&](const Value& object) {
             return holds(array, object, areIdentical);
         };
@@ -120,12 +115,11 @@ TEST_CASE("finding the objects of another array is asking for each of them") {
 
 TEST_CASE("an array can be compared with itself") {
     const Value text = u"a";
-    Array array{text, 1, Array{1}, text, 2.5};
-    const Array before = array;
+    const Array before{text, 1, Array(), text, 2.5};
+    Array array = before;
     removeObjectsNotInArray(array, array);
     removeIdenticalObjectsNotInArray(array, array);
     CHECK(array == before);
-    CHECK(containsAllObjectsIdenticalTo(array, array));
     CHECK(indexesOfObjects(array, array) == std::vector<std::size_t>{0, 1, 2, 4});
     removeIdenticalObjectsInArray(array, array);
     CHECK(array.empty());
@@ -133,20 +127,12 @@ TEST_CASE("an array can be compared with itself") {
 
 TEST_CASE("elements go by their class") {
     struct Box final : Object {};
-    const Array all{u"text",
-                    Data{1},
-                    Date{1},
-                    URL{u"a:b"},
-                    Set{1},
-                    Array{1},
-                    Dictionary(),
-                    Value::mutableArray({2}),
-                    Value::mutableDictionary({}),
-                    true,
-                    2U,
-                    2.5,
-                    Value(std::make_shared<const Box>()),
-                    Value::boxed(Range{1, 2})};
+    const Value list = Value::mutableArray({});
+    const Value entries = Value::mutableDictionary({});
+    const Value box(std::make_shared<const Box>());
+    const Value range = Value::boxed(Range());
+    const Array all{u"text", Data(),  Date(), URL(), Set(), Array(), Dictionary(),
+                    list,    entries, true,   2U,    2.5,   box,     range};
     struct Row {
         ClassTest objectClass;
         std::vector<std::size_t> indexes;  // last first

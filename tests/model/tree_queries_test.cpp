@@ -132,25 +132,19 @@ TEST_CASE("searches and collections go through a tree depth first") {
 }
 
 TEST_CASE("pruning counts levels from the root of the whole tree") {
-    struct Row {
-        const char* why;
-        const char16_t* node;
-        std::size_t level;
-        const char16_t* tree;
+    const auto pruned = [](const char16_t* name, std::size_t level) {
+        const auto whole = treeOf(kTree);
+        named(whole, name)->pruneToLevel(level);
+        CHECK(isLinked(whole));
+        return textOf(whole);
     };
-    const Row rows[] = {
-        {"the root's children", u"a", 0, u"a"},       {"below the children", u"a", 1, u"a(b e -)"},
-        {"below the leaves", u"a", 3, kTree},         {"far below", u"a", SIZE_MAX, kTree},
-        {"one branch", u"b", 2, u"a(b(c -) e -(f))"}, {"one node", u"c", 2, u"a(b(c -) e -(f))"},
-        {"above the node", u"c", 1, kTree},
-    };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        const auto root = treeOf(kTree);
-        named(root, row.node)->pruneToLevel(row.level);
-        CHECK(textOf(root) == row.tree);
-        CHECK(isLinked(root));
-    }
+    CHECK(pruned(u"a", 0) == u"a");
+    CHECK(pruned(u"a", 1) == u"a(b e -)");
+    CHECK(pruned(u"a", 3) == kTree);  // no node is below
+    CHECK(pruned(u"a", SIZE_MAX) == kTree);
+    CHECK(pruned(u"b", 2) == u"a(b(c -) e -(f))");
+    CHECK(pruned(u"c", 2) == pruned(u"b", 2));
+    CHECK(pruned(u"c", 1) == kTree);
     // The level is that of the parent links, even where lists say something else.
     const auto root = treeOf(u"a(b(c))");
     const auto wrapper = QZTreeNode::initWithData(u"w", nullptr, QZTreeNodes{root->firstChild()});
