@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "QZCore/model/undo_manager.h"
 #include "color/system_colors.h"
 #include "platform/composed_characters.h"
 

@@ -1,5 +1,6 @@
 #include "QZCore/richtext/editor.h"
 
+#include "QZCore/model/undo_manager.h"
 #include "support/color_printing.h"
 #include "support/font_scope.h"
 #include "support/preference_setting.h"

@@ -18,13 +18,13 @@
 #include "QZCore/export.h"
 #include "QZCore/foundation/range.h"
 #include "QZCore/foundation/text.h"
-#include "QZCore/model/undo_manager.h"
 #include "QZCore/richtext/editing_commands.h"
 #include "QZCore/richtext/rich_text.h"
 
 namespace QZCore {
 
 class RichTextEditor;
+class UndoManager;
 
 /// Is told what happens in an editor. Every operation does nothing unless it is
 /// overridden.
