@@ -3,8 +3,10 @@ set(QZCORE_PUBLIC_HEADERS
   bezier.h
   bezier/affine_transform.h
   bezier/bezier_path.h
+  bezier/connectors.h
   bezier/cubics.h
   bezier/path_elements.h
+  bezier/svg_path_data.h
   color.h
   color/color.h
   color/named_colors.h

@@ -1,7 +1,10 @@
 // Paths of lines and cubic Bézier curves: building and comparing them, dashes,
-// rigid transforms, snapping to pixels, bounds, and measurement along a path.
+// rigid transforms, snapping to pixels, bounds, measurement along a path;
+// connectors and outlines; SVG path data.
 #pragma once
 
 #include "QZCore/bezier/affine_transform.h"
 #include "QZCore/bezier/bezier_path.h"
+#include "QZCore/bezier/connectors.h"
 #include "QZCore/bezier/cubics.h"
+#include "QZCore/bezier/svg_path_data.h"

@@ -6,16 +6,22 @@ namespace {
 /// How long the handles of a quarter circle of radius 1 are: 4/3 (sqrt(2) - 1).
 constexpr double kQuarterHandle = 0.5522847498307936;
 
+/// The point moved by a handle's share of `spoke`.
+Point handle(Point point, Point spoke) {
+    return {point.x + spoke.x * kQuarterHandle, point.y + spoke.y * kQuarterHandle};
+}
+
 }  // namespace
 
-void appendQuarterArc(BezierPath& path, Point center, Point spoke) {
-    const Point endSpoke{-spoke.y, spoke.x};
-    const Point start{center.x + spoke.x, center.y + spoke.y};
-    const Point end{center.x + endSpoke.x, center.y + endSpoke.y};
+void continueWithQuarterArc(BezierPath& path, const QuarterArc& arc) {
+    path.curveToPoint(arc.end(), handle(arc.start(), arc.endSpoke),
+                      handle(arc.end(), arc.startSpoke));
+}
+
+void appendQuarterArc(BezierPath& path, const QuarterArc& arc) {
+    const Point start = arc.start();
     path.appendBezierPathWithPoints(&start, 1);
-    path.curveToPoint(
-        end, {start.x + endSpoke.x * kQuarterHandle, start.y + endSpoke.y * kQuarterHandle},
-        {end.x + spoke.x * kQuarterHandle, end.y + spoke.y * kQuarterHandle});
+    continueWithQuarterArc(path, arc);
 }
 
 }  // namespace QZCore

@@ -25,7 +25,7 @@ PathEnd endAfter(const detail::PathElements& elements, const std::optional<PathC
         return endOf(last.type, last.points, last.current, last.end());
     }
     if (cut->index == 0) return {{}, 1};
-    const auto& [type, points] = cut->piece;
+    const auto& [type, points, t] = cut->piece;
     return endOf(type, points.data(), endOfElement(elements, cut->index - 1),
                  points[detail::pointCountOf(type) - 1]);
 }

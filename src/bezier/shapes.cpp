@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <initializer_list>
 #include <memory>
 
 #include "QZCore/bezier/bezier_path.h"
@@ -10,6 +11,17 @@
 #include "geometry/containment.h"
 
 namespace QZCore {
+namespace {
+
+/// Lines through all corners and back.
+BezierPath closed(std::initializer_list<Point> corners) {
+    BezierPath path;
+    path.appendBezierPathWithPoints(corners.begin(), corners.size());
+    path.closePath();
+    return path;
+}
+
+}  // namespace
 
 BezierPath BezierPath::bezierPathWithLineFromPoint(Point point, Point toPoint) {
     BezierPath path;
@@ -25,13 +37,22 @@ BezierPath BezierPath::bezierPathWithPointsArray(const std::vector<Point>& point
 }
 
 BezierPath BezierPath::bezierPathWithRect(Rect rect) {
-    BezierPath path;
-    path.moveToPoint(topLeftOfRect(rect));
-    path.lineToPoint(topRightOfRect(rect));
-    path.lineToPoint(bottomRightOfRect(rect));
-    path.lineToPoint(bottomLeftOfRect(rect));
-    path.closePath();
-    return path;
+    return closed({topLeftOfRect(rect), topRightOfRect(rect), bottomRightOfRect(rect),
+                   bottomLeftOfRect(rect)});
+}
+
+BezierPath BezierPath::bezierPathWithTriangleInRect(Rect rect, RectEdge edge) {
+    switch (edge) {
+        case RectEdge::Left:
+            return closed({leftCenterOfRect(rect), topRightOfRect(rect), bottomRightOfRect(rect)});
+        case RectEdge::Top:
+            return closed({topCenterOfRect(rect), bottomRightOfRect(rect), bottomLeftOfRect(rect)});
+        case RectEdge::Right:
+            return closed({rightCenterOfRect(rect), bottomLeftOfRect(rect), topLeftOfRect(rect)});
+        case RectEdge::Bottom:
+            return closed({bottomCenterOfRect(rect), topLeftOfRect(rect), topRightOfRect(rect)});
+    }
+    return {};
 }
 
 BezierPath BezierPath::bezierPathWithRoundRectInRect(Rect rect, double radius) {
@@ -39,10 +60,10 @@ BezierPath BezierPath::bezierPathWithRoundRectInRect(Rect rect, double radius) {
     radius = std::min({radius, rect.size.width / 2, rect.size.height / 2});
     const Rect centers = outset(rect, -radius);
     BezierPath path;
-    appendQuarterArc(path, topLeftOfRect(centers), {-radius, 0});
-    appendQuarterArc(path, topRightOfRect(centers), {0, -radius});
-    appendQuarterArc(path, bottomRightOfRect(centers), {radius, 0});
-    appendQuarterArc(path, bottomLeftOfRect(centers), {0, radius});
+    appendQuarterArc(path, {topLeftOfRect(centers), {-radius, 0}, {0, -radius}});
+    appendQuarterArc(path, {topRightOfRect(centers), {0, -radius}, {radius, 0}});
+    appendQuarterArc(path, {bottomRightOfRect(centers), {radius, 0}, {0, radius}});
+    appendQuarterArc(path, {bottomLeftOfRect(centers), {0, radius}, {-radius, 0}});
     path.closePath();
     return path;
 }

@@ -16,7 +16,7 @@ PathPiece cutLine(const PathStep& step, double remaining, double length) {
     const Point end = step.end();
     const Point cut{step.current.x + t * (end.x - step.current.x),
                     step.current.y + t * (end.y - step.current.y)};
-    return {PathElementType::LineTo, {cut}};
+    return {PathElementType::LineTo, {cut}, t};
 }
 
 /// The part of a curve that is `remaining` long, found by bisection.
@@ -25,7 +25,8 @@ PathPiece cutCurve(const PathStep& step, double remaining, float maxError) {
     Point left[4];
     float low = 0;
     float high = 1;
-    for (float t = 0.5F, before = -1; t != before;) {
+    float t = 0.5F;
+    for (float before = -1; t != before;) {
         subdivideBezierAtT(segment, left, nullptr, t);
         const double measured = lengthOfBezier(left, maxError / 2);
         if (std::abs(remaining - measured) < maxError) break;
@@ -38,7 +39,7 @@ PathPiece cutCurve(const PathStep& step, double remaining, float maxError) {
             t = (low + t) / 2;
         }
     }
-    return {PathElementType::CurveTo, {left[1], left[2], left[3]}};
+    return {PathElementType::CurveTo, {left[1], left[2], left[3]}, t};
 }
 
 PathPiece cutElement(const PathStep& step, double remaining, float length, float maxError) {

@@ -13,6 +13,8 @@ namespace QZCore {
 struct PathPiece {
     PathElementType type;
     std::array<Point, 3> points;
+    /// Where it ends on the element that it is the beginning of, from 0 to 1.
+    double t = 1;
 };
 
 /// The element in which the cut is, and what is left of it.

@@ -26,6 +26,9 @@ enum class WindingRule : std::uint8_t {
     EvenOdd,  // those that a ray leaves by an odd number of crossings
 };
 
+/// An edge of a rectangle. The top edge is the one at the smaller y.
+enum class RectEdge : std::uint8_t { Left = 0, Top = 1, Right = 2, Bottom = 3 };
+
 /// A path of lines and cubic curves. Empty unless made otherwise.
 class QZ_EXPORT BezierPath final {
 public:
@@ -55,6 +58,54 @@ public:
 
     /// The convex hull of the corners of two rectangles, closed.
     [[nodiscard]] static BezierPath bezierPathAsConvexHullContainingRect(Rect rect1, Rect rect2);
+
+    // ---- Connectors ----
+    //
+    // Lines from one figure to another that leave and enter along nubs: stubs that
+    // are horizontal or vertical, and reach half-way if they are shorter than that
+    // (`nubThreshhold`). When both nubs share an axis and the connector runs
+    // backwards along it, it is built from the other end, the lengths exchanged.
+
+    /// A rope: one S-shaped curve, whose control points are the ends of the nubs, or
+    /// the ends of the rope where a nub has length 0.
+    [[nodiscard]] static BezierPath bezierPathRopeFromPoint(Point point, Point to,
+                                                            bool isStartNubHorizontal,
+                                                            bool isEndNubHorizontal,
+                                                            double startNubLength,
+                                                            double endNubLength);
+
+    /// Three straight legs over the ends of the nubs. A start nub of length 0 ends at
+    /// (start x, end y), an end nub of length 0 begins at (end x, start y): with
+    /// neither, the legs cross.
+    [[nodiscard]] static BezierPath bezierPathBentLinesFromPoint(Point point, Point to,
+                                                                 bool isStartNubHorizontal,
+                                                                 bool isEndNubHorizontal,
+                                                                 double startNubLength,
+                                                                 double endNubLength);
+
+    /// The bent lines with their two inner corners rounded, as by
+    /// `bezierPathWithOrthogonalLinesToCurvedCornersOfRadius`.
+    [[nodiscard]] static BezierPath bezierPathRoundedBentLinesFromPoint(
+        Point point, Point to, bool isStartNubHorizontal, bool isEndNubHorizontal,
+        double startNubLength, double endNubLength, double radius);
+
+    // ---- Outlines ----
+
+    /// A triangle, closed: its apex in the middle of the edge, the opposite edge as its
+    /// base. Clockwise from the apex, as seen with y pointing down.
+    [[nodiscard]] static BezierPath bezierPathWithTriangleInRect(Rect rect, RectEdge edge);
+
+    /// A pill with a jagged outline, closed: a rectangle, the shorter sides of which
+    /// are half circles. Its teeth are `spacing` wide on the straight sides, about
+    /// that on the round ones, half as deep, and point inwards. It is centred in the
+    /// rectangle and shorter than that by what does not hold a whole tooth. A side
+    /// has no teeth when not one fits, when more than 65,536 would, or when the
+    /// spacing is not above 0.
+    [[nodiscard]] static BezierPath bezierPathWithJaggedPillInRect(Rect rect, double spacing);
+
+    /// An oval with a jagged outline, closed, that touches all four edges. Its teeth
+    /// are as those of a jagged pill.
+    [[nodiscard]] static BezierPath bezierPathWithJaggedOvalInRect(Rect rect, double spacing);
 
     // ---- Building ----
 
@@ -149,6 +200,14 @@ public:
     /// whole pixels. Slanted runs stay.
     void makeSureAllControlPointsAreNonIntegral();
 
+    /// A copy whose corners, where one straight line meets another, are arcs of the
+    /// radius. An arc takes at most half of a line that ends in corners on both
+    /// sides and all of one that has a free end; its radius shrinks to that. Curves
+    /// stay, and so do corners at curves and lines that turn straight back; lines of
+    /// length 0 go. A radius that is not above 0 gives an equal path.
+    [[nodiscard]] BezierPath bezierPathWithOrthogonalLinesToCurvedCornersOfRadius(
+        double radius) const;
+
     // ---- Measurement ----
 
     /// The length of all elements, a float. Curves are measured to within about 0.1.
@@ -162,6 +221,11 @@ public:
     /// that is no number trims nothing.
     [[nodiscard]] BezierPath bezierPathByTrimmingToLength(float length,
                                                           float withMaximumError = 0.1F) const;
+    /// What lies between two lengths: `bezierPathByTrimmingToLength(toLength)` without
+    /// its first `length` units. The subpath that is cut begins with a move-to there
+    /// and is open: a line stands for its close-path. A length that is not above 0
+    /// cuts nothing off; nothing is left when it is not below the other.
+    [[nodiscard]] BezierPath bezierPathFromLength(float length, float toLength) const;
     /// The point that is reached after a length; the direction there goes to `slope`,
     /// when given. A path of fewer than two elements gives (0, 0) and no slope; one
     /// that is cut within its first element gives (0, 0) and the slope 1.

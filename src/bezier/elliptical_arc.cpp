@@ -1,0 +1,111 @@
+#include "bezier/elliptical_arc.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace QZCore {
+namespace {
+
+constexpr double kQuarterTurn = std::numbers::pi / 2;
+
+/// The map from the unit circle about (0, 0) to an ellipse.
+class Ellipse {
+public:
+    explicit Ellipse(const EllipticalArc& arc)
+        : center_{arc.start.x / 2 + arc.end.x / 2, arc.start.y / 2 + arc.end.y / 2} {
+        const double angle = std::fmod(arc.rotation, 360) * (std::numbers::pi / 180);
+        const double radiusX = std::abs(arc.radiusX);
+        const double radiusY = std::abs(arc.radiusY);
+        axisX_ = {std::cos(angle) * radiusX, std::sin(angle) * radiusX};
+        axisY_ = {-std::sin(angle) * radiusY, std::cos(angle) * radiusY};
+    }
+
+    /// Where on the circle the point belongs.
+    [[nodiscard]] Point onCircle(Point point) const {
+        const Point d{point.x - center_.x, point.y - center_.y};
+        return {(d.x * axisX_.x + d.y * axisX_.y) / (axisX_.x * axisX_.x + axisX_.y * axisX_.y),
+                (d.x * axisY_.x + d.y * axisY_.y) / (axisY_.x * axisY_.x + axisY_.y * axisY_.y)};
+    }
+    [[nodiscard]] Point onEllipse(Point point) const {
+        return {center_.x + point.x * axisX_.x + point.y * axisY_.x,
+                center_.y + point.x * axisX_.y + point.y * axisY_.y};
+    }
+    void scale(double factor) {
+        axisX_ = {axisX_.x * factor, axisX_.y * factor};
+        axisY_ = {axisY_.x * factor, axisY_.y * factor};
+    }
+    void moveCenter(Point onCircle) { center_ = onEllipse(onCircle); }
+
+private:
+    Point center_;
+    Point axisX_;
+    Point axisY_;
+};
+
+/// An ellipse and the part of its circle that is meant.
+struct ArcOnCircle {
+    Ellipse ellipse;
+    double startAngle;
+    double turn;
+};
+
+/// The angle from one direction to another, in the sense that is wanted.
+double turnBetween(Point from, Point to, bool isGrowing) {
+    const double turn = std::atan2(from.x * to.y - from.y * to.x, from.x * to.x + from.y * to.y);
+    if (isGrowing) return turn < 0 ? turn + 4 * kQuarterTurn : turn;
+    return turn > 0 ? turn - 4 * kQuarterTurn : turn;
+}
+
+ArcOnCircle placed(const EllipticalArc& arc) {
+    Ellipse ellipse(arc);
+    // 1. About the middle of both points, the start is at `half` and the end opposite.
+    Point half = ellipse.onCircle(arc.start);
+    const double distance = std::hypot(half.x, half.y);
+    if (distance > 1) {
+        ellipse.scale(distance);
+        half = {half.x / distance, half.y / distance};
+    }
+    // 2. The centre is off that line, on one side or the other.
+    const double reach = std::min(distance, 1.0);
+    const double offset = std::sqrt(1 - reach * reach) / reach;
+    const double side = arc.isLarge != arc.isGrowing ? offset : -offset;
+    const Point center{half.y * side, -half.x * side};
+    ellipse.moveCenter(center);
+    // 3. Both ends are seen from there.
+    const Point start{half.x - center.x, half.y - center.y};
+    const Point end{-half.x - center.x, -half.y - center.y};
+    return {ellipse, std::atan2(start.y, start.x), turnBetween(start, end, arc.isGrowing)};
+}
+
+bool isFinite(Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
+
+}  // namespace
+
+void appendEllipticalArc(BezierPath& path, const EllipticalArc& arc) {
+    if (arc.start == arc.end) return;
+    if (arc.radiusX == 0 || arc.radiusY == 0) return path.lineToPoint(arc.end);
+    const auto [ellipse, startAngle, turn] = placed(arc);
+    if (!std::isfinite(turn)) return path.lineToPoint(arc.end);
+
+    constexpr double kRoundingErrors = 1e-9;
+    const int count =
+        std::max(1, static_cast<int>(std::ceil(std::abs(turn) / kQuarterTurn - kRoundingErrors)));
+    const double handle = 4.0 / 3 * std::tan(turn / count / 4);
+    Point points[12];
+    for (int i = 0; i < count; ++i) {
+        const double from = startAngle + turn * i / count;
+        const double to = startAngle + turn * (i + 1) / count;
+        const Point p{std::cos(from), std::sin(from)};
+        const Point q{std::cos(to), std::sin(to)};
+        points[3 * i] = ellipse.onEllipse({p.x - handle * p.y, p.y + handle * p.x});
+        points[3 * i + 1] = ellipse.onEllipse({q.x + handle * q.y, q.y - handle * q.x});
+        points[3 * i + 2] = ellipse.onEllipse(q);
+    }
+    points[3 * count - 1] = arc.end;
+    if (!std::all_of(points, points + 3 * count, isFinite)) return path.lineToPoint(arc.end);
+    for (const Point* p = points; p != points + 3 * count; p += 3)
+        path.curveToPoint(p[2], p[0], p[1]);
+}
+
+}  // namespace QZCore
