@@ -83,7 +83,18 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
         {"qznote render --images=yes", 2, "qznote: --images takes no value" + seeHelp},
         {"qznote render --to pdf", 2, "qznote: unknown format pdf" + seeHelp},
         {"qznote render -o", 2, "qznote: -o needs a value" + seeHelp},
-        {"qznote render a b", 2, "qznote: more than one note given" + seeHelp},
+        {"qznote render a b", 2, "qznote: more than one file given" + seeHelp},
+        {"echo 'm0 0h30v40z' | qznote path", 0,
+         "elements: 4\nlength: 120.00\nbounds: 0 0 30 40\nhull: M0,0 L30,40 L30,0 Z\n"},
+        {"echo 'm0 0h30v40z' | qznote path --to data --trim 10 40.5", 0, "M10,0 L30,0 L30,10.5\n"},
+        {"printf '' | qznote path", 0, "elements: 0\nlength: 0.00\nbounds: 0 0 0 0\nhull: \n"},
+        {"printf 'M1 2L3 4 5' | qznote path --to=data", 1,
+         "M1,2 L3,4\nqznote: the standard input is no path data from character 10 on\n"},
+        {"qznote path no-such-path", 1, "qznote: cannot read no-such-path\n"},
+        {"qznote path --trim 1", 2, "qznote: --trim needs two values" + seeHelp},
+        {"qznote path --trim 1 2x", 2, "qznote: --trim needs two lengths" + seeHelp},
+        {"qznote path --to html", 2, "qznote: unknown format html" + seeHelp},
+        {"qznote path --style a", 2, "qznote: unknown option --style" + seeHelp},
         {"qznote --version", 0, "qznote " QZNOTE_VERSION "\n"},
     };
     for (const Row& row : rows) {
@@ -94,6 +105,20 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
     }
     CHECK(shell("qznote --help").output.starts_with("qznote shows notes"));
     CHECK(shell("qznote --help").code == 0);
+}
+
+TEST_CASE("a path becomes a drawing, of a part of it or all") {
+    const testing::TemporaryFolder folder;
+    const std::string go = "cd '" + folder.path().string() + "'; echo 'M0 0H20V10' | ";
+    CHECK(shell(go + "qznote path -o a.svg; cat a.svg").output ==
+          "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"-1 -1 22 12\" width=\"640\" "
+          "height=\"349\" fill=\"none\" stroke-linejoin=\"round\" style=\"background: white\">\n"
+          "  <path stroke=\"#222\" stroke-width=\"0.06875\" d=\"M0,0 L20,0 L20,10\"/>\n</svg>\n");
+    CHECK(shell(go + "qznote path --trim 5 10 --to svg")
+              .output.find(
+                  "<path stroke=\"#ccc\" stroke-width=\"0.06875\" d=\"M0,0 L20,0 L20,10\"/>\n"
+                  "  <path stroke=\"#222\" stroke-width=\"0.06875\" d=\"M5,0 L10,0\"/>") !=
+          std::string::npos);
 }
 
 }  // namespace QZCore

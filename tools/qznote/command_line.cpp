@@ -2,9 +2,14 @@
 
 #include <algorithm>
 #include <string_view>
+#include <vector>
+
+#include "QZCore/foundation/text.h"
 
 namespace qznote {
 namespace {
+
+using namespace QZCore;
 
 struct ActionName {
     std::string_view name;
@@ -15,22 +20,47 @@ constexpr ActionName kActions[] = {
     {"render", Command::Action::Render},
     {"detect", Command::Action::Detect},
     {"outline", Command::Action::Outline},
+    {"path", Command::Action::MeasurePath},
 };
 
 struct FormatName {
+    Command::Action action;
     std::string_view name;
     OutputFormat format;
 };
 
 constexpr FormatName kFormats[] = {
-    {"html", OutputFormat::Html},
-    {"ansi", OutputFormat::Ansi},
-    {"text", OutputFormat::Text},
-    {"runs", OutputFormat::Runs},
+    {Command::Action::Render, "html", OutputFormat::Html},
+    {Command::Action::Render, "ansi", OutputFormat::Ansi},
+    {Command::Action::Render, "text", OutputFormat::Text},
+    {Command::Action::Render, "runs", OutputFormat::Runs},
+    {Command::Action::MeasurePath, "report", OutputFormat::Report},
+    {Command::Action::MeasurePath, "data", OutputFormat::PathData},
+    {Command::Action::MeasurePath, "svg", OutputFormat::Svg},
 };
 
-bool isRenderOption(std::string_view name) {
-    return name == "--style" || name == "--to" || name == "-o" || name == "--images";
+struct Option {
+    Command::Action action;
+    std::string_view name;
+    std::size_t values;
+};
+
+constexpr Option kOptions[] = {
+    {Command::Action::Render, "--to", 1},        {Command::Action::Render, "-o", 1},
+    {Command::Action::Render, "--style", 1},     {Command::Action::Render, "--images", 0},
+    {Command::Action::MeasurePath, "--to", 1},   {Command::Action::MeasurePath, "-o", 1},
+    {Command::Action::MeasurePath, "--trim", 2},
+};
+
+/// What is said of an option with too few or too many values, by their right number.
+constexpr std::string_view kNeeds[] = {" takes no value", " needs a value", " needs two values"};
+
+/// The number that is all of the text.
+std::optional<float> numberOf(std::string_view text) {
+    const String units = fromUTF8(text);
+    const ReadNumber number = readDouble(units);
+    if (units.empty() || number.length != units.size()) return std::nullopt;
+    return static_cast<float>(number.value);
 }
 
 /// Reads the arguments from left to right.
@@ -73,10 +103,10 @@ private:
 
     void readArgument() {
         const std::string_view argument = next();
-        if (onlyNotesFollow_ || argument == "-" || !argument.starts_with('-')) {
-            readNote(argument);
+        if (onlyInputsFollow_ || argument == "-" || !argument.starts_with('-')) {
+            readInput(argument);
         } else if (argument == "--") {
-            onlyNotesFollow_ = true;
+            onlyInputsFollow_ = true;
         } else if (argument == "--help" || argument == "-h") {
             command_.action = Command::Action::ShowHelp;
             rest_ = {};
@@ -85,38 +115,52 @@ private:
         }
     }
 
-    void readNote(std::string_view name) {
-        if (hasNote_) fault_ = "more than one note given";
-        hasNote_ = true;
-        command_.note = name;
+    void readInput(std::string_view name) {
+        if (hasInput_) fault_ = "more than one file given";
+        hasInput_ = true;
+        command_.input = name;
     }
 
     void readOption(std::string_view argument) {
         const std::size_t equals = argument.starts_with("--") ? argument.find('=') : argument.npos;
-        const std::string name(argument.substr(0, equals));
-        if (command_.action != Command::Action::Render || !isRenderOption(name)) {
-            fault_ = "unknown option " + name;
-        } else if (name == "--images") {
-            if (equals != argument.npos) fault_ = "--images takes no value";
-            command_.fetchesImages = true;
-        } else if (equals != argument.npos) {
-            setOption(name, argument.substr(equals + 1));
-        } else if (rest_.empty()) {
-            fault_ = name + " needs a value";
+        const std::string_view name = argument.substr(0, equals);
+        const auto* option = std::ranges::find_if(kOptions, [&](const Option& known) {
+            return known.action == command_.action && known.name == name;
+        });
+        if (option == std::end(kOptions)) {
+            fault_ = "unknown option " + std::string(name);
+            return;
+        }
+        std::vector<std::string_view> values;
+        if (equals != argument.npos) values.push_back(argument.substr(equals + 1));
+        while (values.size() < option->values && !rest_.empty()) values.push_back(next());
+        const bool isAnyEmpty = std::ranges::any_of(values, &std::string_view::empty);
+        if (values.size() != option->values || isAnyEmpty) {
+            fault_ = std::string(name).append(kNeeds[option->values]);
         } else {
-            setOption(name, next());
+            setOption(name, values);
         }
     }
 
-    void setOption(const std::string& name, std::string_view value) {
-        if (value.empty()) fault_ = name + " needs a value";
-        if (name == "--style") command_.styleSheet = value;
-        if (name == "-o") command_.output = value;
-        if (name == "--to") setFormat(value);
+    void setOption(std::string_view name, std::span<const std::string_view> values) {
+        if (name == "--images") command_.fetchesImages = true;
+        if (name == "--style") command_.styleSheet = values[0];
+        if (name == "-o") command_.output = values[0];
+        if (name == "--to") setFormat(values[0]);
+        if (name == "--trim") setPart(values[0], values[1]);
+    }
+
+    void setPart(std::string_view from, std::string_view to) {
+        const auto start = numberOf(from);
+        const auto end = numberOf(to);
+        if (!start || !end) fault_ = "--trim needs two lengths";
+        command_.part = Part{start.value_or(0), end.value_or(0)};
     }
 
     void setFormat(std::string_view name) {
-        const auto* known = std::ranges::find(kFormats, name, &FormatName::name);
+        const auto* known = std::ranges::find_if(kFormats, [&](const FormatName& format) {
+            return format.action == command_.action && format.name == name;
+        });
         if (known == std::end(kFormats)) {
             fault_ = "unknown format " + std::string(name);
         } else {
@@ -127,8 +171,8 @@ private:
     std::span<const char* const> rest_;
     Command command_;
     std::string fault_;
-    bool hasNote_ = false;
-    bool onlyNotesFollow_ = false;
+    bool hasInput_ = false;
+    bool onlyInputsFollow_ = false;
 };
 
 }  // namespace
@@ -138,16 +182,17 @@ std::variant<Command, UsageFault> readCommandLine(std::span<const char* const> a
 }
 
 std::string helpText() {
-    return R"(qznote shows notes that are written in Markdown.
+    return R"(qznote shows notes that are written in Markdown, and paths.
 
   qznote render [NOTE.md] [--to FORMAT] [-o FILE] [--style SHEET] [--images]
   qznote detect [NOTE.md]
   qznote outline [NOTE.md]
+  qznote path [DATA.txt] [--trim FROM TO] [--to FORMAT] [-o FILE]
   qznote --help | --version
 
-A note is UTF-8 text. Without a name, or with "-", the standard input is read.
-Lists may be indented by tabs or by 2, 3 or 4 blanks a level, as the note shows,
-and fences around code may name its language.
+Notes and path data are UTF-8 text. Without a name, or with "-", the standard
+input is read. Lists may be indented by tabs or by 2, 3 or 4 blanks a level, as
+the note shows, and fences around code may name its language.
 
 render writes the note with its Markdown carried out:
   --to FORMAT    html: a page that needs no other file
@@ -166,6 +211,16 @@ each, and whether all of it is a list, a table or a task outline.
 
 outline prints the items of each list in the note, one a line, indented by two
 blanks a level. The header or the line before a list stands above it.
+
+path reads the data of an SVG path, the value of its attribute d, and draws or
+measures it. Data are read up to the first mistake, which is reported.
+  --trim FROM TO keeps what lies between two lengths along the path
+  --to FORMAT    report: length, bounds (x, y, width, height) and convex hull,
+                 control points included
+                 data: path data with the commands M, L, C and Z alone
+                 svg: a drawing; with --trim the whole path shows behind it
+                 Without it, svg for a FILE that ends in .svg, else report.
+  -o FILE        as above
 
 The exit code is 0, 1 when a file or the output fails, or 2 for a wrong command
 line.

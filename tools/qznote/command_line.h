@@ -8,16 +8,22 @@
 
 namespace qznote {
 
-/// The forms that a note is written in.
-enum class OutputFormat { Html, Ansi, Text, Runs };
+/// The forms that a note is written in, and those of a path.
+enum class OutputFormat { Html, Ansi, Text, Runs, Report, PathData, Svg };
+
+/// A part of a path, between two lengths along it.
+struct Part {
+    float from;
+    float to;
+};
 
 /// A command with its options.
 struct Command {
-    enum class Action { Render, Detect, Outline, ShowHelp, ShowVersion };
+    enum class Action { Render, Detect, Outline, MeasurePath, ShowHelp, ShowVersion };
 
     Action action = Action::Render;
-    /// The note; "-" is the standard input.
-    std::string note = "-";
+    /// The file with the note or path data; "-" is the standard input.
+    std::string input = "-";
     /// The style sheet; none when empty.
     std::string styleSheet{};
     /// Where the result goes; "-" is the standard output.
@@ -26,6 +32,8 @@ struct Command {
     std::optional<OutputFormat> format{};
     /// Whether images are fetched.
     bool fetchesImages = false;
+    /// What is kept of the path; all of it when absent.
+    std::optional<Part> part{};
 };
 
 /// Why a command line is none, in words for the user.

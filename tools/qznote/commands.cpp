@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "QZCore/bezier/svg_path_data.h"
 #include "QZCore/foundation/log.h"
 #include "QZCore/platform/url_loading.h"
 #include "ansi_writer.h"
@@ -13,10 +14,12 @@
 #include "html_writer.h"
 #include "note.h"
 #include "outline_report.h"
+#include "path_report.h"
 #include "runs_writer.h"
 #include "stand_ins.h"
 #include "streams.h"
 #include "style_sheet_file.h"
+#include "svg_drawing.h"
 
 namespace qznote {
 namespace {
@@ -53,6 +56,9 @@ std::string nameOf(const std::string& file) {
 
 OutputFormat formatOf(const Command& command) {
     if (command.format) return *command.format;
+    if (command.action == Command::Action::MeasurePath) {
+        return command.output.ends_with(".svg") ? OutputFormat::Svg : OutputFormat::Report;
+    }
     if (command.output.ends_with(".html") || command.output.ends_with(".htm")) {
         return OutputFormat::Html;
     }
@@ -62,8 +68,8 @@ OutputFormat formatOf(const Command& command) {
 
 /// The name of the note's file without its folder and extension.
 String titleOf(const Command& command) {
-    if (command.note == kStandardStream) return u"Note";
-    std::string_view name = command.note;
+    if (command.input == kStandardStream) return u"Note";
+    std::string_view name = command.input;
     name.remove_prefix(name.rfind('/') + 1);
     const std::size_t dot = name.rfind('.');
     return fromUTF8(dot == 0 ? name : name.substr(0, dot));
@@ -77,7 +83,7 @@ std::string written(const RichText& text, const StyleSheet& styles, const Comman
             return ansiText(text, baseAttributes(styles));
         case OutputFormat::Runs:
             return runLines(text);
-        case OutputFormat::Text:
+        default:
             break;
     }
     return toUTF8(plainText(text, {0, text.length()}));
@@ -102,18 +108,41 @@ int outline(const Data& note) {
     return output("-", outlineReport(renderedNote(noteText(note), {}), baseAttributes({})));
 }
 
+std::string written(const BezierPath& path, const BezierPath& whole, OutputFormat format) {
+    switch (format) {
+        case OutputFormat::PathData:
+            return toUTF8(svgPathData(path)) + "\n";
+        case OutputFormat::Svg:
+            return svgDrawing(path, whole);
+        default:
+            return pathReport(path);
+    }
+}
+
+int measurePath(const Command& command, const Data& data) {
+    const String text = fromUTF8(textOf(data));
+    const auto [whole, length] = readSvgPathData(text);
+    BezierPath path = whole;
+    if (command.part) path = whole.bezierPathFromLength(command.part->from, command.part->to);
+    const int code = output(command.output, written(path, whole, formatOf(command)));
+    if (length == text.size()) return code;
+    return failure(nameOf(command.input) + " is no path data from character " +
+                   std::to_string(length + 1) + " on");
+}
+
 int carryOut(const Command& command) {
     if (command.action == Command::Action::ShowHelp) return output("-", helpText());
     if (command.action == Command::Action::ShowVersion) {
         return output("-", "qznote " QZNOTE_VERSION "\n");
     }
-    const auto note = readAll(command.note);
-    if (!note) return failure("cannot read " + nameOf(command.note));
+    const auto input = readAll(command.input);
+    if (!input) return failure("cannot read " + nameOf(command.input));
     if (command.action == Command::Action::Detect) {
-        return output("-", detectionReport(noteText(*note)));
+        return output("-", detectionReport(noteText(*input)));
     }
-    if (command.action == Command::Action::Outline) return outline(*note);
-    return render(command, *note);
+    if (command.action == Command::Action::Outline) return outline(*input);
+    if (command.action == Command::Action::MeasurePath) return measurePath(command, *input);
+    return render(command, *input);
 }
 
 }  // namespace
