@@ -19,13 +19,13 @@ Point pointAt(const QuarterArc& arc, double angle) {
     return {arc.center.x + spoke.x, arc.center.y + spoke.y};
 }
 
-/// The point at `depth` inside of the arc, straight under the one at `angle`.
-Point pointUnder(const QuarterArc& arc, double angle, double depth) {
+/// The point at `depth` outside of the arc, straight over the one at `angle`.
+Point pointOver(const QuarterArc& arc, double angle, double depth) {
     const Point point = pointAt(arc, angle);
     const Point along = combined(arc, -std::sin(angle), std::cos(angle));
     const Point across = combined(arc, std::cos(angle), std::sin(angle));
-    // Of the two normals the one that goes back on the way from the centre.
-    const double side = across.x * -along.y + across.y * along.x > 0 ? -1 : 1;
+    // Of the two normals the one that goes on from the centre.
+    const double side = across.y * along.x - across.x * along.y > 0 ? 1 : -1;
     const double scale = side * depth / std::hypot(along.x, along.y);
     return {point.x - along.y * scale, point.y + along.x * scale};
 }
@@ -68,7 +68,7 @@ double lengthOf(const QuarterArc& arc) { return Way(arc).length(); }
 void appendTeethOnArc(BezierPath& path, const QuarterArc& arc, std::uint32_t teeth, double depth) {
     const Way way(arc);
     for (std::uint32_t i = 0; i < teeth; ++i) {
-        path.lineToPoint(pointUnder(arc, way.angleAt((i + 0.5) / teeth), depth));
+        path.lineToPoint(pointOver(arc, way.angleAt((i + 0.5) / teeth), depth));
         const bool isLast = i + 1 == teeth;
         path.lineToPoint(isLast ? arc.end() : pointAt(arc, way.angleAt((i + 1.0) / teeth)));
     }

@@ -10,9 +10,9 @@ namespace QZCore {
 /// spacing each way. An edge on which no tooth stands keeps its length.
 [[nodiscard]] Rect validRectWithRect(Rect rect, double a, double b, double spacing);
 
-/// A rectangle with rounded corners and a jagged outline, closed. The half axes of
-/// the corners are `a` across and `b` down, at most half the width and the height;
-/// corners are sharp if one of them is not above 0. For the teeth see
+/// A rectangle with rounded corners and a jagged outline, closed. The outline through
+/// the tips has corners with the half axes `a` across and `b` down, at most half
+/// the width and the height; too small ones are sharp. For the teeth see
 /// `BezierPath::bezierPathWithJaggedPillInRect`.
 [[nodiscard]] BezierPath bezierPathWithJaggedRoundedRectInRect(Rect rect, double a, double b,
                                                                double spacing);

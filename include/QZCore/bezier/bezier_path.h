@@ -95,16 +95,14 @@ public:
     /// base. Clockwise from the apex, as seen with y pointing down.
     [[nodiscard]] static BezierPath bezierPathWithTriangleInRect(Rect rect, RectEdge edge);
 
-    /// A pill with a jagged outline, closed: a rectangle, the shorter sides of which
-    /// are half circles. Its teeth are `spacing` wide on the straight sides, about
-    /// that on the round ones, half as deep, and point inwards. It is centred in the
-    /// rectangle and shorter than that by what does not hold a whole tooth. A side
-    /// has no teeth when not one fits, when more than 65,536 would, or when the
-    /// spacing is not above 0.
+    /// A pill with a jagged outline, closed: a rectangle whose shorter sides are half
+    /// circles. Its teeth are `spacing` wide on straight sides, about that on round
+    /// ones, and half as deep; their tips reach the rectangle. The pill is centred in
+    /// it, and shorter by what would not hold a whole tooth. A side has no teeth when
+    /// not one fits, when more than 65,536 would, or when the spacing is not above 0.
     [[nodiscard]] static BezierPath bezierPathWithJaggedPillInRect(Rect rect, double spacing);
 
-    /// An oval with a jagged outline, closed, that touches all four edges. Its teeth
-    /// are as those of a jagged pill.
+    /// An oval with a jagged outline, closed, with teeth as those of a jagged pill.
     [[nodiscard]] static BezierPath bezierPathWithJaggedOvalInRect(Rect rect, double spacing);
 
     // ---- Building ----
