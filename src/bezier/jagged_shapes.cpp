@@ -7,8 +7,9 @@
 #include "QZCore/geometry/placement.h"
 #include "QZCore/geometry/points.h"
 #include "QZCore/geometry/rectangles.h"
-#include "bezier/jagged_arc.h"
+#include "bezier/arcs.h"
 #include "bezier/jagged_line.h"
+#include "bezier/quarter_ellipse.h"
 #include "geometry/containment.h"
 
 namespace QZCore {
@@ -29,47 +30,79 @@ double validExtent(double extent, double corners, double spacing) {
     return teeth == 0 ? extent : std::min(extent, corners + teeth * spacing);
 }
 
-/// What the teeth of an outline are like, and on what they stand.
+/// What the teeth of an outline are like.
 struct Teeth {
     double spacing;
     double depth;
 };
 
+/// A rounded corner: a quarter of an ellipse, to one side of its centre each way.
+struct Corner {
+    Point center;
+    double sideX;
+    double sideY;
+
+    /// Where a point goes that is meant for the corner at +x and +y about (0, 0).
+    [[nodiscard]] Point placed(Point point) const {
+        return {center.x + sideX * point.x, center.y + sideY * point.y};
+    }
+    /// Whether the way around, clockwise with y pointing down, comes from the side.
+    [[nodiscard]] bool comesFromSide() const { return sideX == sideY; }
+};
+
 /// Draws a rounded rectangle clockwise, as seen with y pointing down.
 class JaggedOutline {
 public:
-    explicit JaggedOutline(Teeth teeth) : teeth_(teeth) {}
+    /// The corners have the half axes `a` and `b`, both above 0, or both 0.
+    JaggedOutline(Teeth teeth, double a, double b) : teeth_(teeth), a_(a), b_(b) {
+        if (a == 0) return;
+        const QuarterEllipse quarter(a, b);
+        if (const std::uint32_t count = teethOn(quarter.length(), teeth.spacing)) {
+            cornerTeeth_ = quarter.teeth(count, teeth.depth);
+        }
+    }
 
-    /// The corners have the half axes `a` and `b`, of which none is below 0.
-    void draw(Rect rect, double a, double b) {
-        const Rect centers{{rect.origin.x + a, rect.origin.y + b},
-                           {rect.size.width - 2 * a, rect.size.height - 2 * b}};
-        const QuarterArc corners[] = {
-            {topLeftOfRect(centers), {-a, 0}, {0, -b}},
-            {topRightOfRect(centers), {0, -b}, {a, 0}},
-            {bottomRightOfRect(centers), {a, 0}, {0, b}},
-            {bottomLeftOfRect(centers), {0, b}, {-a, 0}},
+    void draw(Rect rect) {
+        const Rect centers{{rect.origin.x + a_, rect.origin.y + b_},
+                           {rect.size.width - 2 * a_, rect.size.height - 2 * b_}};
+        const Corner corners[] = {
+            {topLeftOfRect(centers), -1, -1},
+            {topRightOfRect(centers), 1, -1},
+            {bottomRightOfRect(centers), 1, 1},
+            {bottomLeftOfRect(centers), -1, 1},
         };
-        path_.moveToPoint(corners[0].start());
+        path_.moveToPoint(startOf(corners[0]));
         for (std::size_t i = 0; i < 4; ++i) {
-            cornerAlong(corners[i]);
-            edgeTo(corners[(i + 1) % 4].start());
+            goAround(corners[i]);
+            edgeTo(startOf(corners[(i + 1) % 4]));
         }
         path_.closePath();
     }
 
-    [[nodiscard]] bool hasTeeth() const { return hasTeeth_; }
+    [[nodiscard]] bool hasTeeth() const { return !cornerTeeth_.empty() || !edgeTeeth_.empty(); }
     [[nodiscard]] const BezierPath& path() const { return path_; }
 
 private:
-    void cornerAlong(const QuarterArc& arc) {
-        if (arc.start() == arc.end()) return;
-        if (const std::uint32_t count = teethOn(lengthOf(arc), teeth_.spacing)) {
-            appendTeethOnArc(path_, arc, count, teeth_.depth);
-            hasTeeth_ = true;
-        } else {
-            continueWithQuarterArc(path_, arc);
+    [[nodiscard]] Point startOf(const Corner& corner) const {
+        return corner.placed(corner.comesFromSide() ? Point{a_, 0} : Point{0, b_});
+    }
+
+    void goAround(const Corner& corner) {
+        if (a_ == 0) return;
+        const std::size_t count = cornerTeeth_.size();
+        for (std::size_t i = 1; i < count; ++i) {
+            const std::size_t place = corner.comesFromSide() ? i : count - 1 - i;
+            path_.lineToPoint(corner.placed(cornerTeeth_[place]));
         }
+        if (count == 0) appendSmooth(corner);
+    }
+
+    void appendSmooth(const Corner& corner) {
+        const Point side{corner.sideX * a_, 0};
+        const Point height{0, corner.sideY * b_};
+        continueWithQuarterArc(path_, corner.comesFromSide()
+                                          ? QuarterArc{corner.center, side, height}
+                                          : QuarterArc{corner.center, height, side});
     }
 
     void edgeTo(Point end) {
@@ -80,17 +113,18 @@ private:
         if (count == 0) return path_.lineToPoint(end);
         // Teeth with a width above 0 point outwards on upright edges, inwards on level ones.
         const double width = std::abs(d.x) > std::abs(d.y) ? -teeth_.depth : teeth_.depth;
-        points_.resize(std::size_t{count} * 2);
-        writeTeeth(start, end, count, width, points_.data());
-        points_.back() = end;  // which the rounded steps may miss
-        path_.appendBezierPathWithPoints(points_.data(), points_.size());
-        hasTeeth_ = true;
+        edgeTeeth_.resize(std::size_t{count} * 2);
+        writeTeeth(start, end, count, width, edgeTeeth_.data());
+        edgeTeeth_.back() = end;  // which the rounded steps may miss
+        path_.appendBezierPathWithPoints(edgeTeeth_.data(), edgeTeeth_.size());
     }
 
     Teeth teeth_;
+    double a_;
+    double b_;
+    std::vector<Point> cornerTeeth_;
+    std::vector<Point> edgeTeeth_;
     BezierPath path_;
-    std::vector<Point> points_;
-    bool hasTeeth_ = false;
 };
 
 /// The half axis of a corner between two edges of that extent.
@@ -105,8 +139,8 @@ JaggedOutline jaggedOutline(Rect rect, double a, double b, Teeth teeth) {
     a = halfAxis(a - teeth.depth, rect.size.width);
     b = halfAxis(b - teeth.depth, rect.size.height);
     if (a == 0 || b == 0) a = b = 0;
-    JaggedOutline outline(teeth);
-    outline.draw(validRectWithRect(rect, a, b, teeth.spacing), a, b);
+    JaggedOutline outline(teeth, a, b);
+    outline.draw(validRectWithRect(rect, a, b, teeth.spacing));
     return outline;
 }
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -12,10 +13,26 @@ namespace {
 /// The point at the share `t` of the way from `a` to `b`.
 Point between(Point a, Point b, double t) { return {a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)}; }
 
-bool isLine(const PathStep& leg) { return leg.type != PathElementType::CurveTo; }
+/// An element of a subpath that is drawn.
+struct Leg {
+    PathStep step;
+    Point end;
+    /// The length of a line; NaN for a curve.
+    double length;
 
-double lengthOf(const PathStep& line) {
-    return std::hypot(line.end().x - line.current.x, line.end().y - line.current.y);
+    [[nodiscard]] Point start() const { return step.current; }
+    /// The way from start to end of a line, made 1 long.
+    [[nodiscard]] Point direction() const {
+        return {(end.x - start().x) / length, (end.y - start().y) / length};
+    }
+};
+
+Leg legOf(const PathStep& step) {
+    const Point end = step.end();
+    const double length = step.type == PathElementType::CurveTo
+                              ? std::numeric_limits<double>::quiet_NaN()
+                              : std::hypot(end.x - step.current.x, end.y - step.current.y);
+    return {step, end, length};
 }
 
 /// The point at a distance from `apex` on the line to `end`, which is `length` long.
@@ -25,18 +42,12 @@ Point along(Point apex, Point end, double length, double distance) {
             apex.y + (end.y - apex.y) / length * distance};
 }
 
-Point directionOf(const PathStep& line) {
-    const double length = lengthOf(line);
-    return {(line.end().x - line.current.x) / length, (line.end().y - line.current.y) / length};
-}
-
 /// The tangent of half the angle by which the way turns from one leg to the next:
 /// 1 for a right angle, 0 where no arc can stand.
-double turnBetween(const PathStep& before, const PathStep& after) {
+double turnBetween(const Leg& before, const Leg& after) {
     constexpr double kStraightBack = 1000;
-    if (!isLine(before) || !isLine(after)) return 0;
-    const Point u = directionOf(before);
-    const Point v = directionOf(after);
+    const Point u = before.direction();
+    const Point v = after.direction();
     const double turn = std::abs(u.x * v.y - u.y * v.x) / (1 + u.x * v.x + u.y * v.y);
     return turn < kStraightBack ? turn : 0;
 }
@@ -75,7 +86,8 @@ public:
             return;
         }
         if (!isOpen_) begin(step.current);
-        if (!isLine(step) || lengthOf(step) != 0) legs_.push_back(step);
+        const Leg leg = legOf(step);
+        if (leg.length != 0) legs_.push_back(leg);
         if (step.type != PathElementType::ClosePath) return;
         isClosed_ = true;
         finish();
@@ -119,7 +131,7 @@ private:
     /// How much of a line an arc may take.
     [[nodiscard]] double roomOn(std::size_t leg) const {
         const bool isShared = turns_[leg] > 0 && turns_[leg + 1] > 0;
-        return lengthOf(legs_[leg]) * (isShared ? 0.5 : 1);
+        return legs_[leg].length * (isShared ? 0.5 : 1);
     }
 
     /// The arc at the start of a leg, or at the end of the last one.
@@ -127,24 +139,24 @@ private:
         const std::size_t before = (corner == 0 ? legs_.size() : corner) - 1;
         const std::size_t after = corner == legs_.size() ? 0 : corner;
         const double reach = std::min({radius_ * turns_[corner], roomOn(before), roomOn(after)});
-        const PathStep& in = legs_[before];
-        const PathStep& out = legs_[after];
-        const Point apex = out.current;
-        return {along(apex, in.current, lengthOf(in), reach), apex,
-                along(apex, out.end(), lengthOf(out), reach)};
+        const Leg& in = legs_[before];
+        const Leg& out = legs_[after];
+        const Point apex = out.start();
+        return {along(apex, in.start(), in.length, reach), apex,
+                along(apex, out.end, out.length, reach)};
     }
 
     void appendLeg(std::size_t i) {
-        const PathStep& leg = legs_[i];
+        const auto& [step, end, length] = legs_[i];
         const double turn = turns_[i + 1];
         if (turn > 0) {
             const Arc arc = arcAt(i + 1);
             appendLine(arc.start);
             appendCornerArc(rounded_, arc.start, arc.apex, arc.end, turn);
-        } else if (leg.type == PathElementType::CurveTo) {
-            rounded_.curveToPoint(leg.points[2], leg.points[0], leg.points[1]);
-        } else if (leg.type == PathElementType::LineTo) {
-            appendLine(leg.end());
+        } else if (step.type == PathElementType::CurveTo) {
+            rounded_.curveToPoint(end, step.points[0], step.points[1]);
+        } else if (step.type == PathElementType::LineTo) {
+            appendLine(end);
         }
     }
 
@@ -154,7 +166,7 @@ private:
 
     BezierPath& rounded_;
     double radius_;
-    std::vector<PathStep> legs_;
+    std::vector<Leg> legs_;
     std::vector<double> turns_;
     Point start_;
     bool isOpen_ = false;
