@@ -1,6 +1,5 @@
 #include "QZCore/bezier/connectors.h"
 
-#include <cmath>
 #include <utility>
 
 #include "QZCore/bezier/bezier_path.h"
@@ -8,7 +7,10 @@
 
 namespace QZCore {
 
-float nubThreshhold(float h, float n) { return h > 0 ? std::fmax(h, n) : n - h; }
+float nubThreshhold(float h, float n) {
+    if (h > 0) return n > h ? n : h;
+    return n - h;
+}
 
 namespace {
 

@@ -33,7 +33,9 @@ public:
     }
 
     /// For the only owner, who is about to change what the result is about.
-    void forget() { delete value_.exchange(nullptr, std::memory_order_acq_rel); }
+    void forget() {
+        if (known() != nullptr) delete value_.exchange(nullptr, std::memory_order_acq_rel);
+    }
 
 private:
     mutable std::atomic<const T*> value_{nullptr};

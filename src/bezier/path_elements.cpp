@@ -8,6 +8,17 @@
 #include "bezier/path_measures.h"
 
 namespace QZCore::detail {
+namespace {
+
+/// Copies the points of an element, without a call for so few.
+void copyPoints(const Point* points, std::uint32_t count, Point* to) {
+    if (count > 0) to[0] = points[0];
+    if (count < 3) return;
+    to[1] = points[1];
+    to[2] = points[2];
+}
+
+}  // namespace
 
 /// The elements of a long path.
 struct PathElements::Block {
@@ -71,12 +82,12 @@ void PathElements::append(PathElementType type, const Point* points) {
     prepareChange();
     if (block_ == nullptr) {
         inlineWords_[count_] = word;
-        std::copy_n(points, added, inlinePoints_ + pointCount_);
+        copyPoints(points, added, inlinePoints_ + pointCount_);
     } else {
         block_->words.push_back(word);
         // The points may be ones of this very path, and move.
         Point copies[3];
-        std::copy_n(points, added, copies);
+        copyPoints(points, added, copies);
         block_->points.insert(block_->points.end(), copies, copies + added);
     }
     ++count_;
