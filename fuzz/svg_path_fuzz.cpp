@@ -18,14 +18,14 @@ void requireFinite(const BezierPath& path) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const String text = fromUTF8(textOf({data, size}));
-    const auto [path, length] = readSvgPathData(text);
-    require(length <= text.size());
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t length) {
+    const String text = fromUTF8(textOf({data, length}));
+    const auto [path, understoodLength] = readSvgPathData(text);
+    require(understoodLength <= text.size());
     requireFinite(path);
 
-    const SvgPathReading understood = readSvgPathData(StringView(text).substr(0, length));
-    require(understood.length == length && understood.path == path);
+    const SvgPathReading understood = readSvgPathData(StringView(text).substr(0, understoodLength));
+    require(understood.length == understoodLength && understood.path == path);
 
     const String written = svgPathData(path);
     const SvgPathReading again = readSvgPathData(written);
@@ -34,6 +34,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const BezierPath rounded = path.bezierPathWithOrthogonalLinesToCurvedCornersOfRadius(3);
     require(rounded.elementCount() <= 4 * path.elementCount() + 1);
+    // Curves far beyond any board take long to measure.
+    const Size size = path.bounds().size;
+    if (!(size.width < 1e6 && size.height < 1e6)) return 0;
     const auto whole = static_cast<float>(path.length());
     const BezierPath part = path.bezierPathFromLength(whole / 4, whole / 2);
     require(part.elementCount() <= path.elementCount() + 1);

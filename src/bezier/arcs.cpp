@@ -1,5 +1,7 @@
 #include "bezier/arcs.h"
 
+#include <cmath>
+
 namespace QZCore {
 namespace {
 
@@ -12,6 +14,8 @@ Point handle(Point point, Point spoke) {
 }
 
 }  // namespace
+
+Point directionAt(double angle) { return {std::cos(angle), std::sin(angle)}; }
 
 void continueWithQuarterArc(BezierPath& path, const QuarterArc& arc) {
     path.curveToPoint(arc.end(), handle(arc.start(), arc.endSpoke),

@@ -5,6 +5,9 @@
 
 namespace QZCore {
 
+/// The point in the direction of the angle at the distance 1 from (0, 0).
+[[nodiscard]] Point directionAt(double angle);
+
 /// A quarter of an ellipse, from the end of one half axis to that of the other.
 struct QuarterArc {
     Point center;

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <vector>
+
+#include "bezier/arcs.h"
+#include "bezier/finite.h"
 
 namespace QZCore {
 namespace {
@@ -78,34 +82,36 @@ ArcOnCircle placed(const EllipticalArc& arc) {
     return {ellipse, std::atan2(start.y, start.x), turnBetween(start, end, arc.isGrowing)};
 }
 
-bool isFinite(Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
+/// The points of the curves: for each its control points and its end. None when the
+/// numbers are beyond the doubles.
+std::vector<Point> curvesAlong(const ArcOnCircle& arc) {
+    constexpr double kRoundingErrors = 1e-9;
+    if (!std::isfinite(arc.turn)) return {};
+    const double quarters = std::ceil(std::abs(arc.turn) / kQuarterTurn - kRoundingErrors);
+    const int count = std::max(1, static_cast<int>(quarters));
+    const double handle = 4.0 / 3 * std::tan(arc.turn / count / 4);
+    std::vector<Point> points;
+    for (int i = 0; i < count; ++i) {
+        const Point p = directionAt(arc.startAngle + arc.turn * i / count);
+        const Point q = directionAt(arc.startAngle + arc.turn * (i + 1) / count);
+        points.push_back(arc.ellipse.onEllipse({p.x - handle * p.y, p.y + handle * p.x}));
+        points.push_back(arc.ellipse.onEllipse({q.x + handle * q.y, q.y - handle * q.x}));
+        points.push_back(arc.ellipse.onEllipse(q));
+    }
+    return std::ranges::all_of(points, isFinite) ? points : std::vector<Point>();
+}
 
 }  // namespace
 
 void appendEllipticalArc(BezierPath& path, const EllipticalArc& arc) {
     if (arc.start == arc.end) return;
-    if (arc.radiusX == 0 || arc.radiusY == 0) return path.lineToPoint(arc.end);
-    const auto [ellipse, startAngle, turn] = placed(arc);
-    if (!std::isfinite(turn)) return path.lineToPoint(arc.end);
-
-    constexpr double kRoundingErrors = 1e-9;
-    const int count =
-        std::max(1, static_cast<int>(std::ceil(std::abs(turn) / kQuarterTurn - kRoundingErrors)));
-    const double handle = 4.0 / 3 * std::tan(turn / count / 4);
-    Point points[12];
-    for (int i = 0; i < count; ++i) {
-        const double from = startAngle + turn * i / count;
-        const double to = startAngle + turn * (i + 1) / count;
-        const Point p{std::cos(from), std::sin(from)};
-        const Point q{std::cos(to), std::sin(to)};
-        points[3 * i] = ellipse.onEllipse({p.x - handle * p.y, p.y + handle * p.x});
-        points[3 * i + 1] = ellipse.onEllipse({q.x + handle * q.y, q.y - handle * q.x});
-        points[3 * i + 2] = ellipse.onEllipse(q);
+    std::vector<Point> points;
+    if (arc.radiusX != 0 && arc.radiusY != 0) points = curvesAlong(placed(arc));
+    if (points.empty()) return path.lineToPoint(arc.end);
+    points.back() = arc.end;
+    for (std::size_t i = 0; i < points.size(); i += 3) {
+        path.curveToPoint(points[i + 2], points[i], points[i + 1]);
     }
-    points[3 * count - 1] = arc.end;
-    if (!std::all_of(points, points + 3 * count, isFinite)) return path.lineToPoint(arc.end);
-    for (const Point* p = points; p != points + 3 * count; p += 3)
-        path.curveToPoint(p[2], p[0], p[1]);
 }
 
 }  // namespace QZCore

@@ -4,14 +4,9 @@
 #include <cmath>
 #include <numbers>
 
+#include "bezier/arcs.h"
+
 namespace QZCore {
-namespace {
-
-/// Cosine and sine of the angle, as the point on the circle with the radius 1.
-Point directionAt(double angle) { return {std::cos(angle), std::sin(angle)}; }
-
-}  // namespace
-
 QuarterEllipse::QuarterEllipse(double a, double b) : a_(a), b_(b) {
     constexpr double kStep = std::numbers::pi / 2 / kChords;
     Point before{a, 0};

@@ -43,13 +43,15 @@ Point along(Point apex, Point end, double length, double distance) {
 }
 
 /// The tangent of half the angle by which the way turns from one leg to the next:
-/// 1 for a right angle, 0 where no arc can stand.
+/// 1 for a right angle, 0 where no arc can stand: at curves, and where the way goes
+/// straight on or straight back, but for rounding errors.
 double turnBetween(const Leg& before, const Leg& after) {
+    constexpr double kStraightOn = 1e-6;
     constexpr double kStraightBack = 1000;
     const Point u = before.direction();
     const Point v = after.direction();
     const double turn = std::abs(u.x * v.y - u.y * v.x) / (1 + u.x * v.x + u.y * v.y);
-    return turn < kStraightBack ? turn : 0;
+    return turn > kStraightOn && turn < kStraightBack ? turn : 0;
 }
 
 /// Of the tangent of an angle, which share of it half of the angle has.

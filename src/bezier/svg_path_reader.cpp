@@ -1,9 +1,9 @@
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "QZCore/bezier/svg_path_data.h"
 #include "bezier/elliptical_arc.h"
+#include "bezier/finite.h"
 #include "bezier/svg_scanner.h"
 
 namespace QZCore {
@@ -19,8 +19,6 @@ constexpr Command kCommands[] = {
     {u'M', 2}, {u'L', 2}, {u'H', 1}, {u'V', 1}, {u'C', 6},
     {u'S', 4}, {u'Q', 4}, {u'T', 2}, {u'A', 7}, {u'Z', 0},
 };
-
-bool isFinite(Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
 
 /// The point on the other side of `center`.
 Point reflected(Point point, Point center) {

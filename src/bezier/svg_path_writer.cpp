@@ -1,16 +1,14 @@
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 
 #include "QZCore/bezier/svg_path_data.h"
+#include "bezier/finite.h"
 #include "bezier/path_steps.h"
 
 namespace QZCore {
 namespace {
 
 constexpr char16_t kLetters[] = {u'M', u'L', u'C', u'Z'};
-
-bool isFinite(Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
 
 void appendNumber(String& data, double number) {
     char digits[32];

@@ -21,6 +21,7 @@ TEST_CASE("corners are rounded as far as their lines allow") {
         {"a negative one", u"M0 0H10V10", -3, u"M0 0H10V10"},
         {"no number", u"M0 0H10V10", NAN, u"M0 0H10V10"},
         {"no corner", u"M0 0H10H20", 5, u"M0 0H10H20"},
+        {"straight on, nearly", u"M0 0L0.1 0.3L0.3 0.9", 5, u"M0 0L0.1 0.3L0.3 0.9"},
         {"straight back", u"M0 0H10H5Z", 5, u"M0 0H10H5Z"},
         {"a point", u"M1 1Z M2 2", 5, u"M1 1Z M2 2"},
         {"nothing", u"", 5, u""},
