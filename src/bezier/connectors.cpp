@@ -96,6 +96,7 @@ BezierPath BezierPath::bezierPathBentLinesFromPoint(Point point, Point to,
     return bentLinesAlong(connector.inDrawingOrder());
 }
 
+// NOLINTNEXTLINE(readability-function-size)
 BezierPath BezierPath::bezierPathRoundedBentLinesFromPoint(Point point, Point to,
                                                            bool isStartNubHorizontal,
                                                            bool isEndNubHorizontal,

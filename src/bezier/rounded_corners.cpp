@@ -79,7 +79,11 @@ void appendCornerArc(BezierPath& path, Point start, Point apex, Point end, doubl
 /// Copies a path, subpath by subpath, and rounds its corners.
 class CornerRounder {
 public:
-    CornerRounder(BezierPath& rounded, double radius) : rounded_(rounded), radius_(radius) {}
+    /// Subpaths have at most `mostLegs` elements.
+    CornerRounder(BezierPath& rounded, double radius, std::size_t mostLegs)
+        : rounded_(rounded), radius_(radius) {
+        legs_.reserve(mostLegs);
+    }
 
     void add(const PathStep& step) {
         if (step.type == PathElementType::MoveTo) {
@@ -181,7 +185,7 @@ BezierPath BezierPath::bezierPathWithOrthogonalLinesToCurvedCornersOfRadius(doub
     BezierPath rounded = *this;
     if (!(radius > 0)) return rounded;
     rounded.removeAllPoints();
-    CornerRounder rounder(rounded, radius);
+    CornerRounder rounder(rounded, radius, elementCount());
     for (const PathStep& step : PathSteps(elements_)) rounder.add(step);
     rounder.finish();
     return rounded;

@@ -21,7 +21,7 @@ void appendRest(BezierPath& path, const PathStep& step, const PathPiece& cutOff)
 }  // namespace
 
 BezierPath BezierPath::bezierPathFromLength(float length, float toLength) const {
-    const BezierPath trimmed = bezierPathByTrimmingToLength(toLength);
+    BezierPath trimmed = bezierPathByTrimmingToLength(toLength);
     if (!(length > 0)) return trimmed;
     BezierPath rest = trimmed;
     rest.removeAllPoints();

@@ -23,98 +23,44 @@ TEST_CASE("a nub reaches half-way, or its length") {
 TEST_CASE("connectors leave along their nubs") {
     struct Row {
         const char* why;
-        Point p, q;
-        bool isStartHorizontal, isEndHorizontal;
+        StringView ends;
+        std::string_view axes;
         double startLength, endLength;
-        StringView rope, bent;
+        StringView ropePoints;
+        StringView bentPoints{};  // the same when empty
     };
     const Row rows[] = {
-        {"half-way",
-         {0, 0},
-         {100, 50},
-         true,
-         true,
-         10,
-         10,
-         u"M0,0 C50,0 50,50 100,50",
-         u"M0,0 L50,0 L50,50 L100,50"},
-        {"backwards",
-         {100, 0},
-         {0, 0},
-         true,
-         true,
-         10,
-         60,
-         u"M0,0 C60,0 50,0 100,0",
-         u"M0,0 L60,0 L50,0 L100,0"},
-        {"upright, backwards",
-         {0, 80},
-         {10, 0},
-         false,
-         false,
-         10,
-         60,
-         u"M10,0 C10,60 0,40 0,80",
-         u"M10,0 L10,60 L0,40 L0,80"},
-        {"mixed, backwards",
-         {100, 0},
-         {0, 50},
-         true,
-         false,
-         10,
-         10,
-         u"M100,0 C160,0 0,25 0,50",
-         u"M100,0 L160,0 L0,25 L0,50"},
-        {"no start nub",
-         {0, 0},
-         {100, 50},
-         true,
-         true,
-         0,
-         10,
-         u"M0,0 C0,0 50,50 100,50",
-         u"M0,0 L0,50 L50,50 L100,50"},
-        {"no end nub",
-         {0, 0},
-         {100, 50},
-         true,
-         true,
-         10,
-         0,
-         u"M0,0 C50,0 100,50 100,50",
-         u"M0,0 L50,0 L100,0 L100,50"},
-        {"no nubs",
-         {0, 0},
-         {100, 50},
-         true,
-         true,
-         0,
-         0,
-         u"M0,0 C0,0 100,50 100,50",
-         u"M0,0 L0,50 L100,0 L100,50"},
-        {"one above the other",
-         {0, 0},
-         {0, 50},
-         true,
-         true,
-         7,
-         9,
-         u"M0,0 C7,0 -9,50 0,50",
-         u"M0,0 L7,0 L-9,50 L0,50"},
+        {"half-way", u"M0 0 100 50", "hh", 10, 10, u"M0 0 50 0 50 50 100 50"},
+        {"backwards", u"M100 0 0 0", "hh", 10, 60, u"M0 0 60 0 50 0 100 0"},
+        {"upright, backwards", u"M0 80 10 0", "vv", 10, 60, u"M10 0 10 60 0 40 0 80"},
+        {"mixed, backwards", u"M100 0 0 50", "hv", 10, 10, u"M100 0 160 0 0 25 0 50"},
+        {"one above the other", u"M0 0 0 50", "hh", 7, 9, u"M0 0 7 0 -9 50 0 50"},
+        {"no start", u"M0 0 9 4", "hh", 0, 1, u"M0 0 0 0 4.5 4 9 4", u"M0 0 0 4 4.5 4 9 4"},
+        {"no end", u"M0 0 9 4", "hh", 1, 0, u"M0 0 4.5 0 9 4 9 4", u"M0 0 4.5 0 9 0 9 4"},
+        {"no nubs", u"M0 0 9 4", "hh", 0, 0, u"M0 0 0 0 9 4 9 4", u"M0 0 0 4 9 0 9 4"},
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
-        CHECK(BezierPath::bezierPathRopeFromPoint(row.p, row.q, row.isStartHorizontal,
-                                                  row.isEndHorizontal, row.startLength,
-                                                  row.endLength) == testing::pathOf(row.rope));
-        CHECK(BezierPath::bezierPathBentLinesFromPoint(row.p, row.q, row.isStartHorizontal,
-                                                       row.isEndHorizontal, row.startLength,
-                                                       row.endLength) == testing::pathOf(row.bent));
+        const std::vector<Point> ends = testing::pointsOf(testing::pathOf(row.ends));
+        const bool startsLevel = row.axes[0] == 'h';
+        const bool endsLevel = row.axes[1] == 'h';
+        const BezierPath rope = BezierPath::bezierPathRopeFromPoint(
+            ends[0], ends[1], startsLevel, endsLevel, row.startLength, row.endLength);
+        CHECK(rope.elementAtIndex(1) == PathElementType::CurveTo);
+        CHECK(testing::pointsOf(rope) == testing::pointsOf(testing::pathOf(row.ropePoints)));
+        CHECK(BezierPath::bezierPathBentLinesFromPoint(ends[0], ends[1], startsLevel, endsLevel,
+                                                       row.startLength, row.endLength) ==
+              testing::pathOf(row.bentPoints.empty() ? row.ropePoints : row.bentPoints));
     }
+    const BezierPath rope =
+        BezierPath::bezierPathRopeFromPoint({0, 0}, {0.2, 0}, true, true, 0.3, 1e-3);
     // Distances and lengths are floats.
-    CHECK(testing::pointsOf(
-              BezierPath::bezierPathRopeFromPoint({0, 0}, {0.2, 0}, true, true, 0.3, 1e-3)) ==
+    CHECK(testing::pointsOf(rope) ==
           std::vector<Point>{{0, 0}, {0.3F, 0}, {0.2 - 0.1F, 0}, {0.2, 0}});
+    // The points lie inside of the object, which needs no other memory.
+    const auto* first = reinterpret_cast<const std::byte*>(rope.elements().points());
+    const auto* object = reinterpret_cast<const std::byte*>(&rope);
+    CHECK((object < first && first < object + sizeof rope));
 }
 
 TEST_CASE("a triangle has its apex on the edge") {
