@@ -1,8 +1,6 @@
-#include <algorithm>
-#include <array>
-#include <cmath>
 #include <limits>
 
+#include "bezier/cubic_turns.h"
 #include "bezier/path_bounds.h"
 #include "bezier/path_steps.h"
 
@@ -25,25 +23,11 @@ private:
     double high_ = -std::numeric_limits<double>::infinity();
 };
 
-double valueAt(double p0, double p1, double p2, double p3, double t) {
-    const double s = 1 - t;
-    return s * s * (s * p0 + 3 * t * p1) + t * t * (3 * s * p2 + t * p3);
-}
-
-/// Includes where a curve, whose ends are included, turns back along one axis:
-/// where a t² + b t + c, a third of its derivative, is 0.
-void includeTurns(Extent& extent, double p0, double p1, double p2, double p3) {
-    if (extent.contains(p1) && extent.contains(p2)) return;
-    const double c = p1 - p0;
-    const double b = 2 * (p2 - p1 - c);
-    const double a = (p3 - p2) - 2 * (p2 - p1) + c;
-    const double discriminant = b * b - 4 * a * c;
-    if (!(discriminant >= 0)) return;
-    // The larger root of the two by magnitude, and the other from their product:
-    // no cancellation, and the right root where a is nothing beside b.
-    const double q = -0.5 * (b + std::copysign(std::sqrt(discriminant), b));
-    for (const double t : {q / a, c / q}) {
-        if (t > 0 && t < 1) extent.include(valueAt(p0, p1, p2, p3, t));
+/// Includes where a curve, whose ends are included, turns back along one axis.
+void includeTurns(Extent& extent, const CubicCoordinate& curve) {
+    if (extent.contains(curve.p1) && extent.contains(curve.p2)) return;
+    for (const double t : curve.turns()) {
+        if (t > 0 && t < 1) extent.include(curve.at(t));
     }
 }
 
@@ -61,8 +45,8 @@ Rect boundsOf(const detail::PathElements& elements) {
         x.include(current.x);
         y.include(current.y);
         if (step.type != PathElementType::CurveTo) continue;
-        includeTurns(x, current.x, step.points[0].x, step.points[1].x, end.x);
-        includeTurns(y, current.y, step.points[0].y, step.points[1].y, end.y);
+        includeTurns(x, {current.x, step.points[0].x, step.points[1].x, end.x});
+        includeTurns(y, {current.y, step.points[0].y, step.points[1].y, end.y});
     }
     return {{x.start(), y.start()}, {x.length(), y.length()}};
 }

@@ -35,6 +35,10 @@ void subdivideBezierAtT(const Point* segment, Point* left, Point* right, float t
     write(right, f, e, c, end);
 }
 
+void splitBezierCurveTo(const Point* segment, Point* left, Point* right) {
+    subdivideBezierAtT(segment, left, right, 0.5F);
+}
+
 float Slope(Point a, Point b) { return std::atan2(f32(b.y - a.y), f32(b.x - a.x)); }
 
 }  // namespace QZCore

@@ -3,16 +3,15 @@
 #include <algorithm>
 
 #include "QZCore/bezier/bezier_path.h"
-#include "bezier/path_measures.h"
 
 namespace QZCore {
 namespace {
 
 /// The index of the last move-to before `index`, or the count of elements.
 std::size_t moveBefore(const detail::PathElements& elements, std::size_t index) {
-    if (const detail::PathMeasures* measures = elements.knownMeasures()) {
-        const auto next = std::ranges::lower_bound(measures->moves, index);
-        return next == measures->moves.begin() ? elements.count() : *(next - 1);
+    if (const std::vector<std::uint32_t>* moves = elements.knownMoves()) {
+        const auto next = std::ranges::lower_bound(*moves, index);
+        return next == moves->begin() ? elements.count() : *(next - 1);
     }
     while (index-- > 0) {
         if (elements.typeAt(index) == PathElementType::MoveTo) return index;

@@ -5,6 +5,7 @@
 
 #include "bezier/kept.h"
 #include "bezier/path_bounds.h"
+#include "bezier/path_boxes.h"
 #include "bezier/path_measures.h"
 
 namespace QZCore::detail {
@@ -31,6 +32,7 @@ struct PathElements::Block {
     std::vector<Point> points;
     Kept<PathMeasures> measures;
     Kept<Rect> bounds;
+    Kept<PathBoxes> boxes;
 };
 
 PathElements::PathElements(const PathElements& other) { *this = other; }
@@ -116,8 +118,11 @@ float PathElements::length() const {
     return length;
 }
 
-const PathMeasures* PathElements::knownMeasures() const {
-    return block_ == nullptr ? nullptr : block_->measures.known();
+const std::vector<std::uint32_t>* PathElements::knownMoves() const {
+    if (block_ == nullptr) return nullptr;
+    if (const PathMeasures* measures = block_->measures.known()) return &measures->moves;
+    const PathBoxes* boxes = block_->boxes.known();
+    return boxes == nullptr ? nullptr : &boxes->startsBy(SubpathRule::EveryMove);
 }
 
 const PathMeasures* PathElements::measures() const {
@@ -130,6 +135,11 @@ Rect PathElements::bounds() const {
     return block_->bounds.get([this] { return boundsOf(*this); });
 }
 
+const PathBoxes* PathElements::boxes() const {
+    if (block_ == nullptr) return nullptr;
+    return &block_->boxes.get([this] { return boxesOf(*this); });
+}
+
 /// Before a change: the block becomes this path's own, and nothing is known of
 /// its elements any more.
 void PathElements::prepareChange() {
@@ -140,6 +150,7 @@ void PathElements::prepareChange() {
     } else {
         block_->measures.forget();
         block_->bounds.forget();
+        block_->boxes.forget();
     }
 }
 

@@ -22,8 +22,15 @@ struct PathStep {
     }
 };
 
+/// Which move-tos start a subpath, so that close-paths return to them.
+enum class SubpathRule : std::uint8_t {
+    EveryMove,       // each of them
+    MoveAfterClose,  // the first, and those right after a close-path; strokes are hit by this
+};
+
 /// The elements of a path in order, for a range-based for.
-class PathSteps {
+template <SubpathRule rule>
+class PathStepsBy {
 public:
     class Iterator {
     public:
@@ -34,7 +41,8 @@ public:
         }
         Iterator& operator++() {
             current_ = (**this).end();
-            if (type() == PathElementType::MoveTo) subpathStart_ = current_;
+            if (type() == PathElementType::MoveTo && startsSubpath()) subpathStart_ = current_;
+            before_ = type();
             ++word_;
             return *this;
         }
@@ -42,17 +50,21 @@ public:
 
     private:
         [[nodiscard]] PathElementType type() const { return detail::PathElements::typeOf(*word_); }
+        [[nodiscard]] bool startsSubpath() const {
+            return rule == SubpathRule::EveryMove || before_ == PathElementType::ClosePath;
+        }
         [[nodiscard]] const Point* elementPoints() const {
             return points_ + detail::PathElements::firstPointOf(*word_);
         }
 
         const std::uint32_t* word_;
         const Point* points_;
+        PathElementType before_ = PathElementType::ClosePath;
         Point current_;
         Point subpathStart_;
     };
 
-    explicit PathSteps(const detail::PathElements& elements) : elements_(elements) {}
+    explicit PathStepsBy(const detail::PathElements& elements) : elements_(elements) {}
     [[nodiscard]] Iterator begin() const { return {elements_.words(), elements_.points()}; }
     [[nodiscard]] Iterator end() const {
         return {elements_.words() + elements_.count(), elements_.points()};
@@ -61,5 +73,7 @@ public:
 private:
     const detail::PathElements& elements_;
 };
+
+using PathSteps = PathStepsBy<SubpathRule::EveryMove>;
 
 }  // namespace QZCore

@@ -3,6 +3,7 @@
 
 #include "QZCore/bezier.h"
 #include "QZCore/geometry/distances.h"
+#include "support/path_pieces.h"
 #include "support/plane_printing.h"
 #include "support/random_path.h"
 
@@ -29,38 +30,19 @@ float plainLength(const Point* s, float maxError) {
     return plainLength(left, maxError) + plainLength(right, maxError);
 }
 
-/// One element, and where it begins and ends.
-struct Piece {
-    PathElementType type;
-    Point segment[4];  // a line has its ends only, in the first and the last place
+using testing::Piece;
+using testing::piecesOf;
 
-    [[nodiscard]] float length(float maxError) const {
-        if (type == PathElementType::MoveTo) return 0;
-        return type == PathElementType::CurveTo ? plainLength(segment, maxError)
-                                                : distanceBetweenPoints(segment[0], segment[3]);
-    }
-};
-
-std::vector<Piece> piecesOf(const BezierPath& path) {
-    std::vector<Piece> pieces;
-    Point current;
-    Point start;
-    for (std::size_t i = 0; i < path.elementCount(); ++i) {
-        Point p[3];
-        const PathElementType type = path.elementAtIndex(i, p);
-        const Point end = type == PathElementType::ClosePath
-                              ? start
-                              : p[type == PathElementType::CurveTo ? 2 : 0];
-        if (type == PathElementType::MoveTo) start = end;
-        pieces.push_back({type, {current, p[0], p[1], end}});
-        current = end;
-    }
-    return pieces;
+float plainLength(const Piece& piece, float maxError) {
+    if (piece.type == PathElementType::MoveTo) return 0;
+    return piece.type == PathElementType::CurveTo
+               ? plainLength(piece.segment, maxError)
+               : distanceBetweenPoints(piece.segment[0], piece.segment[3]);
 }
 
 float plainLength(const std::vector<Piece>& pieces) {
     float total = 0;
-    for (const Piece& piece : pieces) total += piece.length(0.1F);
+    for (const Piece& piece : pieces) total += plainLength(piece, 0.1F);
     return total;
 }
 
@@ -97,7 +79,7 @@ BezierPath plainlyTrimmed(const BezierPath& path, float length, float maxError) 
     BezierPath trimmed;
     float total = 0;
     for (const Piece& piece : pieces) {
-        const float own = piece.length(maxError);
+        const float own = plainLength(piece, maxError);
         if (piece.type == PathElementType::MoveTo || total + own <= length) {
             append(trimmed, piece);
             total += own;
@@ -227,7 +209,7 @@ TEST_CASE("lengths, cuts and ends are those of a plain reading of the rules") {
         for (std::size_t k = 0; k < pieces.size(); ++k) {
             float own = -1;
             REQUIRE(path.lengthToSegment(k, &own) == total);
-            REQUIRE(own == pieces[k].length(0.1F));
+            REQUIRE(own == plainLength(pieces[k], 0.1F));
             total += own;
         }
         REQUIRE(path.length() == whole);

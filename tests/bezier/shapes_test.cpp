@@ -3,6 +3,7 @@
 
 #include "QZCore/bezier.h"
 #include "QZCore/geometry.h"
+#include "support/path_pieces.h"
 #include "support/plane_printing.h"
 #include "support/random_path.h"
 
@@ -18,22 +19,17 @@ Point pointAt(const Point* segment, float t) {
 /// Points on the path, 33 for each element.
 std::vector<Point> samplesOf(const BezierPath& path) {
     std::vector<Point> samples;
-    Point current;
-    Point start;
-    for (std::size_t i = 0; i < path.elementCount(); ++i) {
-        Point p[3];
-        const PathElementType type = path.elementAtIndex(i, p);
-        const Point end = type == PathElementType::ClosePath
-                              ? start
-                              : p[type == PathElementType::CurveTo ? 2 : 0];
+    for (const auto& [type, points] : testing::piecesOf(path)) {
+        if (type == PathElementType::MoveTo) {
+            samples.push_back(points[3]);
+            continue;
+        }
         const bool isCurve = type == PathElementType::CurveTo;
-        const Point segment[] = {current, isCurve ? p[0] : current, isCurve ? p[1] : end, end};
-        if (type == PathElementType::MoveTo) start = end;
-        if (type == PathElementType::MoveTo) samples.push_back(end);
-        for (int k = 0; k <= 32 && type != PathElementType::MoveTo; ++k) {
+        const Point segment[] = {points[0], isCurve ? points[1] : points[0],
+                                 isCurve ? points[2] : points[3], points[3]};
+        for (int k = 0; k <= 32; ++k) {
             samples.push_back(pointAt(segment, static_cast<float>(k) / 32));
         }
-        current = end;
     }
     return samples;
 }

@@ -229,6 +229,70 @@ public:
     /// that is cut within its first element gives (0, 0) and the slope 1.
     [[nodiscard]] Point pointOnPathAtLength(float length, float* slope = nullptr) const;
 
+    // ---- Hits ----
+    //
+    // A stroke is hit within half the line width and a padding. A path that does not
+    // begin with a move-to is never hit. A close-path returns to the first move-to, or
+    // to the last one that follows a close-path.
+    //
+    // A padding of exactly -1 asks for the nearest element instead. Lines then count as
+    // endless, and curves farther than 316 units as touched.
+
+    /// Whether the point is on the stroke. With a padding of -1 always true.
+    [[nodiscard]] bool strokeContainsPoint(Point point, float withPadding) const;
+    /// The index of the first element whose stroke the point is on, 0 for none; the
+    /// nearest element with a feather of -1, and -1 for none. Where along the element
+    /// the closest place is, from 0 to 1, goes to `positionInSegment`, when given. A
+    /// point that equals the first point of an element hits that one, at 0.
+    std::ptrdiff_t segmentNearPoint(Point point, float feather,
+                                    float* positionInSegment = nullptr) const;
+    /// The position of that place as a share of the length; 0 for none.
+    [[nodiscard]] double positionOfNearbyPoint(Point point, float feather) const;
+    /// The point at a share of the length, as `pointOnPathAtLength` has it.
+    [[nodiscard]] Point pointOnPathAtPosition(double fraction) const;
+    /// The point at `positionOfNearbyPoint`.
+    [[nodiscard]] Point pointOnPathNearbyPoint(Point point, float feather) const;
+
+    // ---- Crossings ----
+    //
+    // Positions of crossings are floats along the element that is crossed, from 0 to
+    // 1, and up to 0.0001 beyond, so that crossings at ends are found. Parallel lines
+    // do not cross. Of two curves the other one counts as straight where it is flat
+    // within half the line width and 1; a level or upright curve is not crossed by
+    // another, and curves that lie on each other cross in many places.
+
+    /// Appends the positions of the crossings with a line, in the order of the elements.
+    void addIntersectionsWithLineStart(Point lineStart, Point lineEnd,
+                                       std::vector<float>& toArray) const;
+    /// Appends the positions of the crossings with a cubic curve of four points, in the
+    /// order of the elements.
+    void addIntersectionsWithCurveTo(const Point* curve, std::vector<float>& toArray) const;
+    /// Whether the path crosses a line. The first crossing goes to `point`, when given.
+    bool intersectionWithLine(Point* point, Point lineStart, Point lineEnd) const;
+    /// The positions of the crossings with another path, in the order of its elements
+    /// and then of this path's. None when this path has an area and the bounds do not
+    /// overlap; those of a level or upright line never do, so ask that one instead.
+    [[nodiscard]] std::vector<float> intersectionsWithPath(const BezierPath& path) const;
+    /// Whether there are any.
+    [[nodiscard]] bool intersectionWithPath(const BezierPath& path) const;
+
+    // ---- Places ----
+
+    /// The distance from this path to another: 0 when they cross, else the shortest from
+    /// the ends of this path's elements, and points along its curves, to the other's
+    /// lines and curves. What closes a subpath does not count. The way there goes to
+    /// `resultingOffset`, when given. 3.4028234663852886e+38 and `QZHugePoint` when there
+    /// is nothing to measure, or a path does not begin with a move-to.
+    double distanceFromPath(const BezierPath& path, Point* resultingOffset = nullptr) const;
+    /// Whether the point is inside, by the winding rule. Subpaths count as closed. Of
+    /// the outline the left and top edges are inside, the right and bottom ones not.
+    [[nodiscard]] bool containsPoint(Point point) const;
+    /// Whether the bounds contain the other path's bounds, or else all ends of the other
+    /// path's elements after the first are inside. Nothing contains an empty path.
+    [[nodiscard]] bool containsPath(const BezierPath& path) const;
+    /// The path with its curves as lines that are at most 0.1 away from them.
+    [[nodiscard]] BezierPath bezierPathByFlatteningPath() const;
+
 private:
     detail::PathElements elements_;
     std::vector<double> lineDash_;

@@ -23,6 +23,9 @@ QZ_BEGIN_C
 /// `right` have room for four points each, may be null, and may be `segment`.
 QZ_EXPORT void subdivideBezierAtT(const Point* segment, Point* left, Point* right, float t);
 
+/// Splits the segment in the middle of its parameter, as `subdivideBezierAtT` does.
+QZ_EXPORT void splitBezierCurveTo(const Point* segment, Point* left, Point* right);
+
 /// The direction from `a` to `b` in radians, between -pi and pi; 0 for equal
 /// points.
 [[nodiscard]] QZ_EXPORT float Slope(Point a, Point b);

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "QZCore/export.h"
 #include "QZCore/geometry/plane.h"
@@ -27,6 +28,7 @@ enum class PathElementType : std::uint8_t {
 namespace detail {
 
 struct PathMeasures;
+struct PathBoxes;
 
 /// How many points belong to an element of that type.
 [[nodiscard]] constexpr std::uint32_t pointCountOf(PathElementType type) {
@@ -69,10 +71,12 @@ public:
     /// The running totals of a long path, measured once; null for a short one, which
     /// is walked as quickly.
     [[nodiscard]] const PathMeasures* measures() const;
-    /// The same where they have been measured already; else null.
-    [[nodiscard]] const PathMeasures* knownMeasures() const;
+    /// The indices of the move-tos where they have been found already; else null.
+    [[nodiscard]] const std::vector<std::uint32_t>* knownMoves() const;
     /// The smallest rectangle around all, which long paths keep.
     [[nodiscard]] Rect bounds() const;
+    /// Where the elements of a long path lie, found once; null for a short one.
+    [[nodiscard]] const PathBoxes* boxes() const;
 
 private:
     struct Block;

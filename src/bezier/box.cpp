@@ -1,0 +1,56 @@
+#include "bezier/box.h"
+
+namespace QZCore {
+namespace {
+
+// Crossings count within 0.0001 of an element's extent beyond its ends, and runs
+// of less than 0.001 as straight along an axis.
+constexpr double kMarginOfExtent = 1e-3;
+constexpr double kLeastMargin = 2e-3;
+// The rounding of coordinates to the floats of a box.
+constexpr double kMarginOfCoordinates = 2e-7;
+// Farther out, the rounding of the questions' own steps exceeds the margins.
+constexpr double kFarthest = 1e9;
+
+}  // namespace
+
+Box boxAround(const Point* points, std::size_t count) {
+    double left = points[0].x;
+    double top = points[0].y;
+    double right = left;
+    double bottom = top;
+    bool isNear = true;
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto [x, y] = points[i];
+        isNear = isNear && std::abs(x) <= kFarthest && std::abs(y) <= kFarthest;
+        left = std::min(left, x);
+        top = std::min(top, y);
+        right = std::max(right, x);
+        bottom = std::max(bottom, y);
+    }
+    if (!isNear) return kEverywhere;
+    const double farthest = std::max({-left, -top, right, bottom});
+    const double margin = kLeastMargin + kMarginOfExtent * (right - left + bottom - top) +
+                          kMarginOfCoordinates * farthest;
+    return {static_cast<float>(left - margin), static_cast<float>(top - margin),
+            static_cast<float>(right + margin), static_cast<float>(bottom + margin)};
+}
+
+Box boxAround(const PathStep& step) {
+    Point points[4] = {step.current, step.end()};
+    switch (step.type) {
+        case PathElementType::MoveTo:
+            points[2] = step.subpathStart;
+            return boxAround(points, 3);
+        case PathElementType::CurveTo:
+            points[2] = step.points[0];
+            points[3] = step.points[1];
+            return boxAround(points, 4);
+        case PathElementType::LineTo:
+        case PathElementType::ClosePath:
+            break;
+    }
+    return boxAround(points, 2);
+}
+
+}  // namespace QZCore

@@ -1,0 +1,148 @@
+#include "bezier/curve_crossings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "QZCore/bezier/cubics.h"
+#include "bezier/crossings.h"
+#include "bezier/stroke_hits.h"
+#include "geometry/containment.h"
+
+namespace QZCore {
+namespace {
+
+/// How flat a curve is that counts as a line: besides half the line width.
+constexpr float kFlatness = 1;
+// So short a stretch of a curve is beyond the resolution of positions.
+constexpr int kDeepest = 64;
+// Two curves cross in nine places. So many pieces are met only where they lie on
+// each other, farther out than coordinates resolve the width of a flat piece.
+constexpr int kMostPairs = 1 << 22;
+
+Rect boxOf(const CubicPoints& curve) {
+    const auto [left, right] = std::ranges::minmax(curve, {}, &Point::x);
+    const auto [top, bottom] = std::ranges::minmax(curve, {}, &Point::y);
+    return {{left.x, top.y}, {right.x - left.x, bottom.y - top.y}};
+}
+
+bool isFinite(const CubicPoints& curve) {
+    return std::ranges::all_of(
+        curve, [](Point point) { return std::isfinite(point.x) && std::isfinite(point.y); });
+}
+
+/// A stretch of a whole curve.
+struct Stretch {
+    CubicPoints points;
+    double low;
+    double interval;
+};
+
+/// A curve in halves.
+struct Halves {
+    CubicPoints first;
+    CubicPoints second;
+
+    explicit Halves(const CubicPoints& whole) {
+        splitBezierCurveTo(whole.data(), first.data(), second.data());
+    }
+};
+
+/// Two curves in halves, whose pairs are taken in turn.
+class Quarters {
+public:
+    Quarters(const Stretch& a, const CubicPoints& b)
+        : a_(a.points), b_(b), low_(a.low), interval_(a.interval / 2) {}
+
+    /// Whether the halves are what they are halves of, so that there is no end.
+    [[nodiscard]] bool repeat(const Stretch& a, const CubicPoints& b) const {
+        return (a_.first == a.points || a_.second == a.points) && (b_.first == b || b_.second == b);
+    }
+    /// The next pair, if there is one.
+    bool next(Stretch& a, CubicPoints& b) {
+        if (taken_ == 4) return false;
+        const bool isSecond = taken_ >= 2;
+        a = {isSecond ? a_.second : a_.first, isSecond ? low_ + interval_ : low_, interval_};
+        b = taken_ % 2 == 0 ? b_.first : b_.second;
+        ++taken_;
+        return true;
+    }
+
+private:
+    Halves a_;
+    Halves b_;
+    double low_;
+    double interval_;
+    int taken_ = 0;
+};
+
+class Search {
+public:
+    Search(CrossingSink& sink, double lineWidth) : sink_(sink), flat_(lineWidth, kFlatness) {}
+
+    /// Whether the sink has had enough.
+    bool run(Stretch a, CubicPoints b) {
+        if (!canBeFlat() || !isFinite(a.points) || !isFinite(b)) return false;
+        for (int pairs = 0; pairs < kMostPairs; ++pairs) {
+            if (overlap(boxOf(a.points), boxOf(b))) {
+                if (isFlat(b)) {
+                    if (cross(a, b)) return true;
+                } else {
+                    divide(a, b);
+                }
+            }
+            if (!resume(a, b)) return false;
+        }
+        return false;
+    }
+
+private:
+    [[nodiscard]] bool canBeFlat() const {
+        const double reach = flat_.ofLines;
+        return reach * reach > 0;
+    }
+    [[nodiscard]] bool isFlat(const CubicPoints& b) const {
+        return straightLineHit(b[0], b[3], b[1], nullptr, flat_, nullptr) &&
+               straightLineHit(b[0], b[3], b[2], nullptr, flat_, nullptr);
+    }
+
+    /// Crosses a stretch with the line that a flat curve is.
+    bool cross(const Stretch& a, const CubicPoints& b) {
+        const auto& [start, control1, control2, end] = a.points;
+        CrossingTimes lineTimes;
+        CrossingTimes times;
+        const int count =
+            curvedIntersection(lineTimes, times, parameterizeCurve(start, end, control1, control2),
+                               parameterizeLine(b[0], b[3]));
+        for (int i = 0; i < count; ++i) {
+            if (sink_.add(a.low + a.interval * times[static_cast<std::size_t>(i)])) return true;
+        }
+        return false;
+    }
+
+    void divide(const Stretch& a, const CubicPoints& b) {
+        if (depth_ == kDeepest) return;
+        const Quarters& quarters = waiting_[depth_].emplace(a, b);
+        if (!quarters.repeat(a, b)) ++depth_;
+    }
+
+    bool resume(Stretch& a, CubicPoints& b) {
+        while (depth_ > 0 && !waiting_[depth_ - 1]->next(a, b)) --depth_;
+        return depth_ > 0;
+    }
+
+    CrossingSink& sink_;
+    HitRadius flat_;
+    std::array<std::optional<Quarters>, kDeepest> waiting_;
+    std::size_t depth_ = 0;
+};
+
+}  // namespace
+
+bool addCurveToCurveIntersections(CrossingSink& sink, const CubicPoints& onCurve,
+                                  const CubicPoints& otherCurve, double lineWidth,
+                                  double bezierLowPosition, double bezierInterval) {
+    return Search(sink, lineWidth).run({onCurve, bezierLowPosition, bezierInterval}, otherCurve);
+}
+
+}  // namespace QZCore

@@ -1,0 +1,45 @@
+#include "bezier/flattening.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "QZCore/bezier/bezier_path.h"
+
+namespace QZCore {
+namespace {
+
+/// How far the lines may be from the curve.
+constexpr double kFlatness = 0.1;
+// So many are closer to any curve than the floats of distances tell apart.
+constexpr double kMostPieces = 4096;
+
+/// How much the second of three control points is off the middle of the others.
+double bend(Point a, Point b, Point c) {
+    return std::hypot(a.x - 2 * b.x + c.x, a.y - 2 * b.y + c.y);
+}
+
+}  // namespace
+
+int flatPiecesOf(const PathStep& curve) {
+    const Point* p = curve.points;
+    const double bent = std::max(bend(curve.current, p[0], p[1]), bend(p[0], p[1], p[2]));
+    // A chord over a stretch h of the parameter is off by at most h² / 8 times the
+    // second derivative, which is at most 6 times the bend.
+    const double pieces = std::ceil(std::sqrt(0.75 * bent / kFlatness));
+    return pieces > 1 ? static_cast<int>(std::min(pieces, kMostPieces)) : 1;
+}
+
+BezierPath BezierPath::bezierPathByFlatteningPath() const {
+    BezierPath flat = *this;
+    flat.removeAllPoints();
+    for (const PathStep& step : PathSteps(elements_)) {
+        if (step.type != PathElementType::CurveTo) {
+            flat.elements_.append(step.type, step.points);
+            continue;
+        }
+        visitFlatEnds(step, [&](Point end) { flat.lineToPoint(end); });
+    }
+    return flat;
+}
+
+}  // namespace QZCore
