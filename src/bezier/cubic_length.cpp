@@ -1,5 +1,6 @@
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "QZCore/bezier/cubics.h"
 #include "foundation/single_precision.h"
@@ -8,9 +9,12 @@ namespace QZCore {
 namespace {
 
 // Far beyond what lengths of sensible coordinates and bounds need: 60,000 pieces
-// and 30 halvings for curves of 1e9 units measured to a millionth. What comes
-// this far is a bound that the rounding of the lengths alone exceeds.
-constexpr int kMostSplits = 1 << 18;
+// and 30 halvings for curves of 1e9 units measured to a millionth. After so many
+// splits, a piece whose error is no more than the rounding of its own distances is
+// not split any further: its length is known as exactly as they tell.
+constexpr int kManySplits = 1 << 18;
+constexpr float kRounding = 8 * std::numeric_limits<float>::epsilon();
+// So small a share of the curve is nothing beside the rest in single precision.
 constexpr int kDeepestSplit = 128;
 
 /// Points without defaults, so that a stack of them costs nothing.
@@ -92,7 +96,8 @@ float lengthOfBezier(const Point* segment, float maxError) {
         const float polygon = distance(piece, 0, 1) + distance(piece, 1, 2) + distance(piece, 2, 3);
         const float chord = distance(piece, 0, 3);
         const float error = polygon - chord;
-        const bool canSplit = std::isfinite(error) && !waiting.isFull() && splits < kMostSplits;
+        const bool isRounding = splits >= kManySplits && error <= kRounding * polygon;
+        const bool canSplit = std::isfinite(error) && !waiting.isFull() && !isRounding;
         if (!(error <= maxError) && canSplit) {
             waiting.split(piece);
             ++splits;

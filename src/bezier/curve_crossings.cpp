@@ -16,9 +16,9 @@ namespace {
 constexpr float kFlatness = 1;
 // So short a stretch of a curve is beyond the resolution of positions.
 constexpr int kDeepest = 64;
-// Two curves cross in nine places. So many pieces are met only where they lie on
-// each other, farther out than coordinates resolve the width of a flat piece.
-constexpr int kMostPairs = 1 << 22;
+// Two curves cross in nine places at most. So many pieces meet only where they lie on
+// each other; at a size of 1e9 units that takes a fifth as many.
+constexpr int kMostPairs = 1 << 20;
 
 Rect boxOf(const CubicPoints& curve) {
     const auto [left, right] = std::ranges::minmax(curve, {}, &Point::x);

@@ -132,7 +132,6 @@ TEST_CASE("hits are those of a plain reading of the rules") {
             }
             const float padding = paddings[random.below(6)];
             const PlainHit expected = PlainStroke{path.lineWidth(), padding}.search(path, p);
-            if(!(found(path,p,padding)==expected)){ auto f=found(path,p,padding); printf("%td %.9g %.9g vs %td %.9g %.9g n=%zu w=%g pad=%g type=%d\n", f.index,f.position,f.distance,expected.index,expected.position,expected.distance,path.elementCount(),path.lineWidth(),padding,(int)path.elementAtIndex((size_t)f.index));}
             REQUIRE(found(path, p, padding) == expected);
             REQUIRE(path.strokeContainsPoint(p, padding) == (expected.index != 0));
             hits += expected.index > 0 && padding != -1;

@@ -184,6 +184,18 @@ TEST_CASE("measuring ends, whatever the numbers and the bound are") {
     }
 }
 
+TEST_CASE("a bound that cannot be reached is reached to within rounding") {
+    testing::RandomPlane random(13);
+    for (int i = 0; i < 20; ++i) {
+        Point segment[4];
+        for (Point& point : segment) point = random.point(100);
+        const float length = lengthOfBezier(segment, 1e-4F);
+        for (const float bound : {0.0F, -1.0F, NAN}) {
+            CHECK(std::abs(lengthOfBezier(segment, bound) - length) < 1e-5F * length + 5e-3F);
+        }
+    }
+}
+
 TEST_CASE("lengths, cuts and ends are those of a plain reading of the rules") {
     testing::RandomPlane random(8);
     for (int i = 0; i < 600; ++i) {

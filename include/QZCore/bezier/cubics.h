@@ -14,9 +14,10 @@ QZ_BEGIN_C
 
 /// The arc length, by splitting the segment until control polygon and chord differ
 /// by at most `maxError` in every piece. The bound is that of a piece, not of the
-/// whole. What no splitting brings below the bound (a bound of 0 or less, in
-/// unlucky cases) is cut off after a quarter of a million pieces. Infinity or NaN
-/// for coordinates that are not finite, or further apart than the floats reach.
+/// whole. Where the rounding of distances alone exceeds it (a bound of 0 or less, in
+/// unlucky cases), splitting ends after a quarter of a million pieces, once nothing
+/// but rounding is left of the difference. Infinity or NaN for coordinates that are
+/// not finite, or further apart than the floats reach.
 [[nodiscard]] QZ_EXPORT float lengthOfBezier(const Point* segment, float maxError);
 
 /// Splits the segment at `t` into one up to there and one from there. `left` and
