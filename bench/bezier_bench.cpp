@@ -1,92 +1,18 @@
 // Measuring paths, beside Qt's, lib2geom's and cairo's paths.
-#include <2geom/path.h>
 #include <2geom/sbasis-geometric.h>
 #include <benchmark/benchmark.h>
 #include <cairo.h>
 
-#include <QPainterPath>
-#include <cmath>
-#include <random>
-
-#include "QZCore/bezier.h"
+#include "bench_paths.h"
 
 namespace {
 
-using QZCore::BezierPath;
-using QZCore::PathElementType;
-using QZCore::Point;
-
-/// A connecting line: one curve.
-BezierPath rope() {
-    BezierPath path;
-    path.moveToPoint({0, 0});
-    path.curveToPoint({300, 200}, {150, 0}, {150, 200});
-    return path;
-}
-
-/// A closed outline of `count` curves around a circle.
-BezierPath outline(std::size_t count) {
-    std::mt19937_64 random(1);
-    std::uniform_real_distribution<double> wobble(0.9, 1.1);
-    const auto place = [&](double angle, double radius) {
-        return Point{500 + radius * std::cos(angle), 500 + radius * std::sin(angle)};
-    };
-    const double step = 2 * 3.141592653589793 / static_cast<double>(count);
-    BezierPath path;
-    path.moveToPoint(place(0, 400));
-    for (std::size_t i = 0; i < count; ++i) {
-        const double angle = step * static_cast<double>(i);
-        const Point control1 = place(angle + step / 3, 400 * wobble(random));
-        const Point control2 = place(angle + 2 * step / 3, 400 * wobble(random));
-        path.curveToPoint(place(angle + step, 400), control1, control2);
-    }
-    path.closePath();
-    return path;
-}
-
-BezierPath pathOf(const benchmark::State& state) {
-    return state.range(0) == 1 ? rope() : outline(static_cast<std::size_t>(state.range(0)));
-}
-
-/// Calls a builder of another library for each element.
-template <class Move, class Curve>
-void rebuild(const BezierPath& path, Move move, Curve curve) {
-    for (std::size_t i = 0; i < path.elementCount(); ++i) {
-        Point p[3];
-        const PathElementType type = path.elementAtIndex(i, p);
-        if (type == PathElementType::MoveTo) move(p[0]);
-        if (type == PathElementType::CurveTo) curve(p[0], p[1], p[2]);
-    }
-}
-
-QPainterPath qtPath(const BezierPath& path) {
-    QPainterPath made;
-    rebuild(
-        path, [&](Point p) { made.moveTo(p.x, p.y); },
-        [&](Point a, Point b, Point c) { made.cubicTo(a.x, a.y, b.x, b.y, c.x, c.y); });
-    return made;
-}
-
-Geom::Path geomPath(const BezierPath& path) {
-    Geom::Path made;
-    rebuild(
-        path, [&](Point p) { made.start(Geom::Point(p.x, p.y)); },
-        [&](Point a, Point b, Point c) {
-            made.appendNew<Geom::CubicBezier>(Geom::Point(a.x, a.y), Geom::Point(b.x, b.y),
-                                              Geom::Point(c.x, c.y));
-        });
-    return made;
-}
+using namespace bench_paths;
 
 double geomLength(const Geom::Path& path) {
     double length = 0;
     for (const Geom::Curve& curve : path) length += curve.length(0.1);
     return length;
-}
-
-template <class Work>
-void repeat(benchmark::State& state, Work work) {
-    for (auto _ : state) benchmark::DoNotOptimize(work());
 }
 
 void sizes(benchmark::internal::Benchmark* job) { job->Arg(1)->Arg(64)->Arg(4096); }
