@@ -24,10 +24,12 @@ inline BezierPath rope() {
     return path;
 }
 
-/// A closed outline of `count` curves around a circle.
+/// A closed outline of `count` curves around a circle, which bulge by up to a third of
+/// their width.
 inline BezierPath outline(std::size_t count) {
     std::mt19937_64 random(1);
-    std::uniform_real_distribution<double> wobble(0.9, 1.1);
+    const double bulge = 2 / static_cast<double>(count);
+    std::uniform_real_distribution<double> wobble(1 - bulge, 1 + bulge);
     const auto place = [&](double angle, double radius) {
         return Point{500 + radius * std::cos(angle), 500 + radius * std::sin(angle)};
     };

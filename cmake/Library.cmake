@@ -2,7 +2,7 @@
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
 
-set(QZCORE_MODULES icu-i18n icu-uc expat)
+set(QZCORE_MODULES icu-i18n icu-uc expat 2geom)
 set(QZCORE_BACK_ENDS "")
 file(GLOB_RECURSE QZCORE_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.cpp)
 

@@ -5,6 +5,7 @@ set(QZCORE_PUBLIC_HEADERS
   bezier/bezier_path.h
   bezier/connectors.h
   bezier/cubics.h
+  bezier/curve_fitting.h
   bezier/path_elements.h
   bezier/svg_path_data.h
   color.h

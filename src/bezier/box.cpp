@@ -19,17 +19,17 @@ Box boxAround(const Point* points, std::size_t count) {
     double top = points[0].y;
     double right = left;
     double bottom = top;
-    bool isNear = true;
-    for (std::size_t i = 0; i < count; ++i) {
+    double sum = left + top;  // not a number when a coordinate is none
+    for (std::size_t i = 1; i < count; ++i) {
         const auto [x, y] = points[i];
-        isNear = isNear && std::abs(x) <= kFarthest && std::abs(y) <= kFarthest;
         left = std::min(left, x);
         top = std::min(top, y);
         right = std::max(right, x);
         bottom = std::max(bottom, y);
+        sum += x + y;
     }
-    if (!isNear) return kEverywhere;
-    const double farthest = std::max({-left, -top, right, bottom});
+    const double farthest = std::max(std::max(-left, -top), std::max(right, bottom));
+    if (std::isnan(sum) || !(farthest <= kFarthest)) return kEverywhere;
     const double margin = kLeastMargin + kMarginOfExtent * (right - left + bottom - top) +
                           kMarginOfCoordinates * farthest;
     return {static_cast<float>(left - margin), static_cast<float>(top - margin),

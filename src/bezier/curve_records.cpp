@@ -5,8 +5,6 @@
 namespace QZCore {
 namespace {
 
-Point sumOf(Point p, double factor, Point q) { return {p.x + factor * q.x, p.y + factor * q.y}; }
-
 Point scaled(Point p, double factor) { return {p.x * factor, p.y * factor}; }
 
 }  // namespace
@@ -25,10 +23,5 @@ CurveRecord parameterizeCurve(Point start, Point end, Point controlPoint1, Point
 }
 
 Point pointAt(const LineRecord& line, double u) { return sumOf(line.origin, u, line.direction); }
-
-Point pointAt(const CurveRecord& curve, double t) {
-    return {((curve.a.x * t + curve.b.x) * t + curve.c.x) * t + curve.start.x,
-            ((curve.a.y * t + curve.b.y) * t + curve.c.y) * t + curve.start.y};
-}
 
 }  // namespace QZCore

@@ -51,4 +51,18 @@ void BezierPath::scaleBy(double factor) {
     changeEach(elements_, [&](Point point) { return Point{point.x * factor, point.y * factor}; });
 }
 
+BezierPath BezierPath::insetPathBy(double inset) const {
+    const auto [origin, size] = bounds();
+    if (inset == 0 || (size.width == 0 && size.height == 0)) return *this;
+    const Point center = centerOfRect(bounds());
+    AffineTransform transform;
+    transform.translate(center.x, center.y);
+    transform.scale(size.width == 0 ? 1 : (size.width - 2 * inset) / size.width,
+                    size.height == 0 ? 1 : (size.height - 2 * inset) / size.height);
+    transform.translate(-center.x, -center.y);
+    BezierPath copy = *this;
+    copy.transformUsingAffineTransform(transform);
+    return copy;
+}
+
 }  // namespace QZCore

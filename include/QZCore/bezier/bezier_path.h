@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "QZCore/bezier/affine_transform.h"
@@ -292,6 +293,22 @@ public:
     [[nodiscard]] bool containsPath(const BezierPath& path) const;
     /// The path with its curves as lines that are at most 0.1 away from them.
     [[nodiscard]] BezierPath bezierPathByFlatteningPath() const;
+
+    // ---- Smoothing ----
+
+    /// A smooth curve through the ends of all elements, in order: twice differentiable
+    /// within each subpath, and around a closed one.
+    [[nodiscard]] static BezierPath bezierPathCurveFittingThroughPointsOnPath(
+        const BezierPath& path);
+    /// The lines of the path with rounded corners, from the middle of the closing line
+    /// on. Each corner is rounded from at most 20 units away; the radius is not used, and
+    /// the last corner before a close-path keeps sharp. Curves are left out. Nothing for
+    /// a path that does not begin with a move-to, or is one move-to.
+    [[nodiscard]] std::optional<BezierPath> smoothedPathWithCornerRadius(double radius) const;
+    /// The path scaled about the centre of its bounds, so that these become smaller by
+    /// `inset` on every side; larger by a negative one. This very path when the inset is
+    /// exactly 0 or the bounds are a point.
+    [[nodiscard]] BezierPath insetPathBy(double inset) const;
 
 private:
     detail::PathElements elements_;

@@ -1,0 +1,14 @@
+// The least-squares fit of cubics to points.
+#pragma once
+
+#include <vector>
+
+#include "QZCore/geometry/plane.h"
+
+namespace QZCore {
+
+/// Fits at most 256 cubics. Four points for each: start, control points, end. Empty
+/// where none fit, or a point is infinite.
+[[nodiscard]] std::vector<Point> fittedCubics(const std::vector<Point>& points, double error);
+
+}  // namespace QZCore
