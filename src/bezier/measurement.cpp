@@ -72,9 +72,7 @@ BezierPath BezierPath::bezierPathByTrimmingToLength(float length, float withMaxi
         trimmed.elements_ = elements_;
         return trimmed;
     }
-    for (std::size_t i = 0; i < cut->index; ++i) {
-        trimmed.elements_.append(elements_.typeAt(i), elements_.pointsAt(i));
-    }
+    trimmed.elements_.assignStart(elements_, cut->index);
     trimmed.elements_.append(cut->piece.type, cut->piece.points.data());
     return trimmed;
 }

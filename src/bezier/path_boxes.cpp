@@ -35,17 +35,17 @@ detail::PathBoxes detail::boxesOf(const PathElements& elements) {
     std::vector<Box> leaves;
     leaves.reserve(elements.count());
     PathElementType before = PathElementType::ClosePath;
-    auto other = PathStepsBy<SubpathRule::MoveAfterClose>(elements).begin();
     for (const PathStep& step : PathSteps(elements)) {
-        const PathStep alternative = *other;
-        ++other;
         noteKind(boxes, static_cast<std::uint32_t>(leaves.size()), step.type, before);
+        leaves.push_back(boxAround(step));
         before = step.type;
-        Box box = boxAround(step);
-        if (!(step.current == alternative.current && step.end() == alternative.end())) {
-            box = unionOf(box, boxAround(alternative));
+    }
+    if (boxes.starts[0].size() != boxes.starts[1].size()) {
+        std::size_t index = 0;
+        for (const PathStep& step : PathStepsBy<SubpathRule::MoveAfterClose>(elements)) {
+            leaves[index] = unionOf(leaves[index], boxAround(step));
+            ++index;
         }
-        leaves.push_back(box);
     }
     boxes.tree = BoxTree(std::move(leaves));
     return boxes;

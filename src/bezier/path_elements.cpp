@@ -96,6 +96,26 @@ void PathElements::append(PathElementType type, const Point* points) {
     pointCount_ += added;
 }
 
+void PathElements::assignStart(const PathElements& other, std::size_t count) {
+    const std::uint32_t* words = other.words();
+    const Point* points = other.points();
+    std::size_t pointCount = 0;
+    if (count > 0) {
+        pointCount = firstPointOf(words[count - 1]) + pointCountOf(typeOf(words[count - 1]));
+    }
+    clear();
+    if (count <= kInlineElements && pointCount <= kInlinePoints) {
+        std::copy_n(words, count, inlineWords_);
+        std::copy_n(points, pointCount, inlinePoints_);
+    } else {
+        block_ = std::make_shared<Block>();
+        block_->words.assign(words, words + count);
+        block_->points.assign(points, points + pointCount);
+    }
+    count_ = static_cast<std::uint32_t>(count);
+    pointCount_ = static_cast<std::uint32_t>(pointCount);
+}
+
 void PathElements::clear() {
     block_.reset();
     count_ = 0;

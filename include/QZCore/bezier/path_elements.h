@@ -63,6 +63,8 @@ public:
     // ---- Changing ----
     void append(PathElementType type, const Point* points);
     void clear();
+    /// Becomes the first `count` elements of another path.
+    void assignStart(const PathElements& other, std::size_t count);
     [[nodiscard]] Point* changeablePoints();
 
     // ---- Measuring ----
