@@ -1,6 +1,7 @@
 // Where the crossings go that are found.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "foundation/single_precision.h"
@@ -8,6 +9,10 @@
 namespace QZCore {
 
 /// Takes the positions of crossings: into an array, or, without one, the first only.
+///
+/// Knows as well how much work may still be done for one question. Each pair of curves
+/// adds what lying on each other at a size of 1e6 units costs; what larger ones need
+/// besides comes from a store that they share.
 class CrossingSink {
 public:
     CrossingSink() = default;
@@ -15,15 +20,19 @@ public:
 
     /// Whether that was enough.
     [[nodiscard]] bool add(double position) {
-        ++count_;
         if (positions_ != nullptr) positions_->push_back(f32(position));
         return positions_ == nullptr;
     }
-    [[nodiscard]] std::size_t count() const { return count_; }
+    void startCurves() { pairsLeft_ += kPairsOfCurves; }
+    /// Whether another pair of pieces of the curves may be compared.
+    [[nodiscard]] bool startPair() { return pairsLeft_-- > 0; }
 
 private:
+    static constexpr std::int64_t kPairsOfCurves = 1 << 13;
+    static constexpr std::int64_t kSharedPairs = 1 << 20;
+
     std::vector<float>* positions_ = nullptr;
-    std::size_t count_ = 0;
+    std::int64_t pairsLeft_ = kSharedPairs;
 };
 
 }  // namespace QZCore

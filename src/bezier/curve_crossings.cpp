@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "QZCore/bezier/cubics.h"
@@ -16,15 +17,15 @@ namespace {
 constexpr float kFlatness = 1;
 // So short a stretch of a curve is beyond the resolution of positions.
 constexpr int kDeepest = 64;
-// Two curves cross in nine places at most. So many pieces meet only where they lie on
-// each other; at a size of 1e9 units that takes a fifth as many.
-constexpr int kMostPairs = 1 << 20;
 
 Rect boxOf(const CubicPoints& curve) {
     const auto [left, right] = std::ranges::minmax(curve, {}, &Point::x);
     const auto [top, bottom] = std::ranges::minmax(curve, {}, &Point::y);
     return {{left.x, top.y}, {right.x - left.x, bottom.y - top.y}};
 }
+
+/// The magnitude of what is closest to 0 in a stretch of numbers.
+double leastMagnitude(double low, double extent) { return std::max({low, -(low + extent), 0.0}); }
 
 bool isFinite(const CubicPoints& curve) {
     return std::ranges::all_of(
@@ -83,11 +84,13 @@ public:
     /// Whether the sink has had enough.
     bool run(Stretch a, CubicPoints b) {
         if (!canBeFlat() || !isFinite(a.points) || !isFinite(b)) return false;
-        for (int pairs = 0; pairs < kMostPairs; ++pairs) {
-            if (overlap(boxOf(a.points), boxOf(b))) {
+        sink_.startCurves();
+        while (sink_.startPair()) {
+            const Rect box = boxOf(b);
+            if (overlap(boxOf(a.points), box)) {
                 if (isFlat(b)) {
                     if (cross(a, b)) return true;
-                } else {
+                } else if (canGetFlat(box)) {
                     divide(a, b);
                 }
             }
@@ -100,6 +103,12 @@ private:
     [[nodiscard]] bool canBeFlat() const {
         const double reach = flat_.ofLines;
         return reach * reach > 0;
+    }
+    /// Whether coordinates somewhere in the box are small enough to tell what is flat.
+    [[nodiscard]] bool canGetFlat(Rect box) const {
+        const double least = std::max(leastMagnitude(box.origin.x, box.size.width),
+                                      leastMagnitude(box.origin.y, box.size.height));
+        return least * std::numeric_limits<double>::epsilon() < std::abs(flat_.ofLines);
     }
     [[nodiscard]] bool isFlat(const CubicPoints& b) const {
         return straightLineHit(b[0], b[3], b[1], nullptr, flat_, nullptr) &&
