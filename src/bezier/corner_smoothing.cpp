@@ -5,6 +5,7 @@
 #include "QZCore/geometry/angles.h"
 #include "QZCore/geometry/distances.h"
 #include "QZCore/geometry/points.h"
+#include "bezier/element_ends.h"
 #include "foundation/single_precision.h"
 
 namespace QZCore {
@@ -48,9 +49,9 @@ Point closingPoint(FirstPoints& points, std::size_t count) {
 }  // namespace
 
 std::optional<BezierPath> BezierPath::smoothedPathWithCornerRadius(double /*radius*/) const {
-    if (isEmpty()) return std::nullopt;
+    if (!beginsWithMove(elements_)) return std::nullopt;
     FirstPoints points(*this);
-    if (points.read(0) != PathElementType::MoveTo) return std::nullopt;
+    points.read(0);
     const Point first = points.point();
     const bool hasTrailingMove = elements_.typeAt(elementCount() - 1) == PathElementType::MoveTo;
     const std::size_t count = elementCount() - (hasTrailingMove ? 1 : 0);

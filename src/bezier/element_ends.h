@@ -7,6 +7,11 @@
 
 namespace QZCore {
 
+/// Whether there is a first element, and it is a move-to.
+[[nodiscard]] inline bool beginsWithMove(const detail::PathElements& elements) {
+    return elements.count() > 0 && elements.typeAt(0) == PathElementType::MoveTo;
+}
+
 /// Where the element ends.
 [[nodiscard]] Point endOfElement(const detail::PathElements& elements, std::size_t index);
 

@@ -104,7 +104,7 @@ bool BezierPath::containsPath(const BezierPath& path) const {
     if (path.isEmpty()) return false;
     // Wanted: figures are sorted by their rectangles first.
     if (encloses(bounds(), path.bounds())) return true;
-    if (path.elementAtIndex(0) != PathElementType::MoveTo) return false;
+    if (!beginsWithMove(path.elements_)) return false;
     bool isFirst = true;
     for (const PathStep& step : PathStepsBy<SubpathRule::MoveAfterClose>(path.elements())) {
         if (!isFirst && !containsPoint(step.end())) return false;

@@ -10,8 +10,9 @@ namespace {
 
 /// How far the lines may be from the curve.
 constexpr double kFlatness = 0.1;
-// So many are closer to any curve than the floats of distances tell apart.
-constexpr double kMostPieces = 4096;
+// Enough for curves of 100,000 units; larger ones are followed to within a millionth
+// of their size.
+constexpr double kMostPieces = 1024;
 
 /// How much the second of three control points is off the middle of the others.
 double bend(Point a, Point b, Point c) {

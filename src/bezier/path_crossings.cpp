@@ -3,6 +3,7 @@
 #include "QZCore/bezier/bezier_path.h"
 #include "bezier/crossings.h"
 #include "bezier/curve_crossings.h"
+#include "bezier/element_ends.h"
 #include "bezier/path_boxes.h"
 #include "geometry/containment.h"
 
@@ -132,7 +133,7 @@ bool crossPaths(const BezierPath& path, const BezierPath& other, CrossingSink& s
     // A path without width or height overlaps nothing: `path` is then crossed all
     // the same, `other` is not. Wanted; callers ask with the figure first.
     if (hasArea(path.bounds()) && !overlap(path.bounds(), other.bounds())) return false;
-    if (other.isEmpty() || other.elementAtIndex(0) != PathElementType::MoveTo) return false;
+    if (!beginsWithMove(other.elements())) return false;
     return visitUntil<SubpathRule::EveryMove>(
         other.elements(), [&](const Box& box) { return hasElementIn(path.elements(), box); },
         [&](std::size_t, const PathStep& step) { return crossWithStep(path, step, sink); });

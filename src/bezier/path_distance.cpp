@@ -1,6 +1,7 @@
 #include "QZCore/bezier/bezier_path.h"
 #include "QZCore/geometry/distances.h"
 #include "QZCore/geometry/sentinels.h"
+#include "bezier/element_ends.h"
 #include "bezier/flattening.h"
 #include "bezier/path_boxes.h"
 #include "foundation/single_precision.h"
@@ -26,10 +27,12 @@ bool mayBeShorter(const Box& box, Point from, const Way& shortest) {
 void measureToLines(const PathStep& step, Point from, Way& shortest) {
     Point start = step.current;
     visitFlatEnds(step, [&](Point end) {
-        Point delta;
-        const float distance = distanceBetweenPointAndLine(from, start, end, &delta);
-        if (distance < shortest.distance) shortest = {distance, delta};
+        const Point line[] = {start, end};
         start = end;
+        if (!mayBeShorter(boxAround(line, 2), from, shortest)) return;
+        Point delta;
+        const float distance = distanceBetweenPointAndLine(from, line[0], line[1], &delta);
+        if (distance < shortest.distance) shortest = {distance, delta};
     });
 }
 
@@ -45,17 +48,13 @@ void measureToPath(const detail::PathElements& elements, Point from, Way& shorte
         });
 }
 
-bool beginsWithMove(const BezierPath& path) {
-    return !path.isEmpty() && path.elementAtIndex(0) == PathElementType::MoveTo;
-}
-
 }  // namespace
 
 double BezierPath::distanceFromPath(const BezierPath& path, Point* resultingOffset) const {
     Way shortest;
     if (intersectionWithPath(path)) {
         shortest = {0, {}};
-    } else if (beginsWithMove(*this) && beginsWithMove(path)) {
+    } else if (beginsWithMove(elements_) && beginsWithMove(path.elements_)) {
         for (const PathStep& step : PathSteps(elements_)) {
             if (step.type == PathElementType::ClosePath) continue;
             visitFlatEnds(step, [&](Point v) { measureToPath(path.elements(), v, shortest); });

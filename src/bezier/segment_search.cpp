@@ -2,16 +2,13 @@
 
 #include <cmath>
 
+#include "bezier/element_ends.h"
 #include "bezier/nearest_segment.h"
 #include "bezier/path_boxes.h"
 #include "bezier/stroke_hits.h"
 
 namespace QZCore {
 namespace {
-
-bool beginsWithMove(const BezierPath& path) {
-    return !path.isEmpty() && path.elementAtIndex(0) == PathElementType::MoveTo;
-}
 
 /// How far from an element a hit may be; infinite where a curve can be hit without
 /// being measured at all.
@@ -49,7 +46,7 @@ SegmentHit firstHit(const BezierPath& path, Point point, const HitRadius& radius
 std::ptrdiff_t segmentHitByPoint(const BezierPath& path, Point point, float* position,
                                  float padding, float* distance) {
     SegmentHit hit;
-    if (beginsWithMove(path)) {
+    if (beginsWithMove(path.elements())) {
         const HitRadius radius(path.lineWidth(), padding);
         hit = radius.isNearestMode ? nearestSegment(path.elements(), point, radius)
                                    : firstHit(path, point, radius);
@@ -60,7 +57,7 @@ std::ptrdiff_t segmentHitByPoint(const BezierPath& path, Point point, float* pos
 }
 
 bool BezierPath::strokeContainsPoint(Point point, float withPadding) const {
-    if (!beginsWithMove(*this)) return false;
+    if (!beginsWithMove(elements_)) return false;
     const HitRadius radius(lineWidth_, withPadding);
     if (radius.isNearestMode) return true;  // there, no element is -1, not 0
     return visitCandidates(*this, point, radius, [&](std::size_t, const PathStep& step) {

@@ -126,7 +126,8 @@ std::vector<float> plainlyCrossed(const BezierPath& path, const BezierPath& othe
 BezierPath anyPath(testing::RandomPlane& random, int kind) {
     BezierPath path = testing::randomPath(random, random.below(kind % 3 == 0 ? 200 : 12));
     if (kind % 5 == 0) path.scaleBy(0.1);
-    if (kind % 4 == 0) path.translateXBy(random.number(-100, 100), random.number(-100, 100));
+    const Point offset = random.point(100);
+    if (kind % 4 == 0) path.translateXBy(offset.x, offset.y);
     if (kind % 7 == 0) path.setLineWidth(random.number(0, 20));
     return path;
 }

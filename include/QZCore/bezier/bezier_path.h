@@ -291,7 +291,8 @@ public:
     /// Whether the bounds contain the other path's bounds, or else all ends of the other
     /// path's elements after the first are inside. Nothing contains an empty path.
     [[nodiscard]] bool containsPath(const BezierPath& path) const;
-    /// The path with its curves as lines that are at most 0.1 away from them.
+    /// The path with its curves as lines that are at most 0.1 away from them, or a
+    /// millionth of their size where that is more.
     [[nodiscard]] BezierPath bezierPathByFlatteningPath() const;
 
     // ---- Smoothing ----
