@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include "QZCore/bezier/bezier_path.h"
 
@@ -12,7 +13,7 @@ namespace {
 constexpr double kFlatness = 0.1;
 // Enough for curves of 100,000 units; larger ones are followed to within a millionth
 // of their size.
-constexpr double kMostPieces = 1024;
+constexpr int kMostPieces = 1024;
 
 /// How much the second of three control points is off the middle of the others.
 double bend(Point a, Point b, Point c) {
@@ -27,18 +28,21 @@ int flatPiecesOf(const PathStep& curve) {
     // A chord over a stretch h of the parameter is off by at most h² / 8 times the
     // second derivative, which is at most 6 times the bend.
     const double pieces = std::ceil(std::sqrt(0.75 * bent / kFlatness));
-    return pieces > 1 ? static_cast<int>(std::min(pieces, kMostPieces)) : 1;
+    return pieces > 1 ? static_cast<int>(std::fmin(pieces, kMostPieces)) : 1;
 }
 
 BezierPath BezierPath::bezierPathByFlatteningPath() const {
     BezierPath flat = *this;
     flat.removeAllPoints();
+    const auto ends = std::make_unique_for_overwrite<Point[]>(kMostPieces);
     for (const PathStep& step : PathSteps(elements_)) {
         if (step.type != PathElementType::CurveTo) {
             flat.elements_.append(step.type, step.points);
             continue;
         }
-        visitFlatEnds(step, [&](Point end) { flat.lineToPoint(end); });
+        std::size_t count = 0;
+        visitFlatEnds(step, [&](Point end) { ends[count++] = end; });
+        flat.elements_.appendLines(ends.get(), count);
     }
     return flat;
 }

@@ -38,7 +38,7 @@ struct PathBoxes {
 /// it must not let in any box around that one.
 template <SubpathRule rule, class Enters, class Visit>
 bool visitUntil(const detail::PathElements& elements, Enters enters, Visit visit) {
-    if (const detail::PathBoxes* boxes = elements.boxes()) {
+    if (const detail::PathBoxes* boxes = elements.boxesIfAskedAgain()) {
         return boxes->tree.visitUntil(enters, [&](std::size_t index) {
             return visit(index, stepAt(elements, *boxes, rule, index));
         });

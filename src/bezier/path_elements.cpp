@@ -33,6 +33,7 @@ struct PathElements::Block {
     Kept<PathMeasures> measures;
     Kept<Rect> bounds;
     Kept<PathBoxes> boxes;
+    std::atomic<bool> isAskedAgain{false};
 };
 
 PathElements::PathElements(const PathElements& other) { *this = other; }
@@ -94,6 +95,20 @@ void PathElements::append(PathElementType type, const Point* points) {
     }
     ++count_;
     pointCount_ += added;
+}
+
+void PathElements::appendLines(const Point* points, std::size_t count) {
+    if (block_ == nullptr || kMostPoints - pointCount_ <= count) {
+        for (std::size_t i = 0; i < count; ++i) append(PathElementType::LineTo, points + i);
+        return;
+    }
+    prepareChange();
+    for (std::size_t i = 0; i < count; ++i) {
+        block_->words.push_back((pointCount_++ << 2) |
+                                static_cast<std::uint32_t>(PathElementType::LineTo));
+    }
+    block_->points.insert(block_->points.end(), points, points + count);
+    count_ += static_cast<std::uint32_t>(count);
 }
 
 void PathElements::assignStart(const PathElements& other, std::size_t count) {
@@ -160,6 +175,13 @@ const PathBoxes* PathElements::boxes() const {
     return &block_->boxes.get([this] { return boxesOf(*this); });
 }
 
+const PathBoxes* PathElements::boxesIfAskedAgain() const {
+    if (block_ == nullptr) return nullptr;
+    if (const PathBoxes* known = block_->boxes.known()) return known;
+    if (!block_->isAskedAgain.exchange(true, std::memory_order_relaxed)) return nullptr;
+    return boxes();
+}
+
 /// Before a change: the block becomes this path's own, and nothing is known of
 /// its elements any more.
 void PathElements::prepareChange() {
@@ -171,6 +193,7 @@ void PathElements::prepareChange() {
         block_->measures.forget();
         block_->bounds.forget();
         block_->boxes.forget();
+        block_->isAskedAgain.store(false, std::memory_order_relaxed);
     }
 }
 

@@ -2,9 +2,9 @@
 //
 // The fitting is a least-squares fit of cubics to digitised points. Its error is
 // the square of the largest distance from a point to the curve. A run of points
-// that cannot be fitted (more than 256 curves would be needed, as for noisy strokes
-// with a small error, or a point is infinite) gives an empty path; the caller then
-// keeps the polyline.
+// that cannot be fitted gives an empty path, and the caller keeps the polyline: more
+// than 256 curves would be needed, as for noisy strokes with a small error, a point is
+// infinite or beyond 1e60, or the error is negative or NaN.
 #pragma once
 
 #include "QZCore/bezier/bezier_path.h"

@@ -62,6 +62,8 @@ public:
 
     // ---- Changing ----
     void append(PathElementType type, const Point* points);
+    /// Appends a line to each of the points, which are not this path's own.
+    void appendLines(const Point* points, std::size_t count);
     void clear();
     /// Becomes the first `count` elements of another path.
     void assignStart(const PathElements& other, std::size_t count);
@@ -79,6 +81,9 @@ public:
     [[nodiscard]] Rect bounds() const;
     /// Where the elements of a long path lie, found once; null for a short one.
     [[nodiscard]] const PathBoxes* boxes() const;
+    /// The same from the second time on, for what is answered as quickly by a walk as
+    /// by finding them.
+    [[nodiscard]] const PathBoxes* boxesIfAskedAgain() const;
 
 private:
     struct Block;
