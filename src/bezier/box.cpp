@@ -22,10 +22,10 @@ Box boxAround(const Point* points, std::size_t count) {
     double sum = left + top;  // not a number when a coordinate is none
     for (std::size_t i = 1; i < count; ++i) {
         const auto [x, y] = points[i];
-        left = std::min(left, x);
-        top = std::min(top, y);
-        right = std::max(right, x);
-        bottom = std::max(bottom, y);
+        left = x < left ? x : left;
+        top = y < top ? y : top;
+        right = x > right ? x : right;
+        bottom = y > bottom ? y : bottom;
         sum += x + y;
     }
     const double farthest = std::max(std::max(-left, -top), std::max(right, bottom));

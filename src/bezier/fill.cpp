@@ -38,6 +38,11 @@ double parameterOf(const CubicCoordinate& curve, double value, double low, doubl
 
 int crossingsOfCurve(const PathStep& step, Point point) {
     const Point* p = step.points;
+    const bool isAbove = step.current.y <= point.y;
+    if ((p[0].y <= point.y) == isAbove && (p[1].y <= point.y) == isAbove &&
+        (p[2].y <= point.y) == isAbove) {
+        return 0;
+    }
     const CubicCoordinate x{step.current.x, p[0].x, p[1].x, p[2].x};
     const auto [left, right] = std::minmax({x.p0, x.p1, x.p2, x.p3});
     if (right <= point.x) return 0;
@@ -75,17 +80,22 @@ int crossingsAtEnd(const detail::PathElements& elements, Point point) {
 
 /// How often the path goes around the point.
 int windingsAround(const detail::PathElements& elements, Point point) {
-    int windings = 0;
-    visitUntil<SubpathRule::EveryMove>(
-        elements,
+    int windings = crossingsAtEnd(elements, point);
+    const detail::PathBoxes* boxes = elements.boxesIfAskedAgain();
+    if (boxes == nullptr) {
+        for (const PathStep& step : PathSteps(elements)) windings += crossingsOfStep(step, point);
+        return windings;
+    }
+    boxes->tree.visitUntil(
         [&](const Box& box) {
             return point.x <= box.right && point.y >= box.top && point.y <= box.bottom;
         },
-        [&](std::size_t, const PathStep& step) {
+        [&](std::size_t index) {
+            const PathStep step = stepAt(elements, *boxes, SubpathRule::EveryMove, index);
             windings += crossingsOfStep(step, point);
             return false;
         });
-    return windings + crossingsAtEnd(elements, point);
+    return windings;
 }
 
 bool encloses(Rect outer, Rect inner) {

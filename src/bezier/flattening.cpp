@@ -1,8 +1,8 @@
 #include "bezier/flattening.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <memory>
 
 #include "QZCore/bezier/bezier_path.h"
 
@@ -17,7 +17,8 @@ constexpr int kMostPieces = 1024;
 
 /// How much the second of three control points is off the middle of the others.
 double bend(Point a, Point b, Point c) {
-    return std::hypot(a.x - 2 * b.x + c.x, a.y - 2 * b.y + c.y);
+    const Point off{a.x - 2 * b.x + c.x, a.y - 2 * b.y + c.y};
+    return std::sqrt(dotProduct(off, off));
 }
 
 }  // namespace
@@ -34,15 +35,20 @@ int flatPiecesOf(const PathStep& curve) {
 BezierPath BezierPath::bezierPathByFlatteningPath() const {
     BezierPath flat = *this;
     flat.removeAllPoints();
-    const auto ends = std::make_unique_for_overwrite<Point[]>(kMostPieces);
+    std::array<Point, 64> ends;
     for (const PathStep& step : PathSteps(elements_)) {
         if (step.type != PathElementType::CurveTo) {
             flat.elements_.append(step.type, step.points);
             continue;
         }
         std::size_t count = 0;
-        visitFlatEnds(step, [&](Point end) { ends[count++] = end; });
-        flat.elements_.appendLines(ends.get(), count);
+        visitFlatEnds(step, [&](Point end) {
+            ends[count++] = end;
+            if (count < ends.size()) return;
+            flat.elements_.appendLines(ends.data(), count);
+            count = 0;
+        });
+        flat.elements_.appendLines(ends.data(), count);
     }
     return flat;
 }

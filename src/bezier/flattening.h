@@ -16,7 +16,8 @@ void visitFlatEnds(const PathStep& step, Visit visit) {
         const Point* p = step.points;
         const CurveRecord curve = parameterizeCurve(step.current, p[2], p[0], p[1]);
         const int pieces = flatPiecesOf(step);
-        for (int i = 1; i < pieces; ++i) visit(pointAt(curve, static_cast<double>(i) / pieces));
+        const double stretch = 1.0 / pieces;
+        for (int i = 1; i < pieces; ++i) visit(pointAt(curve, i * stretch));
     }
     visit(step.end());
 }

@@ -92,9 +92,10 @@ void lookAtLikelyOnes(Nearest& nearest, const detail::PathElements& elements,
 
 SegmentHit nearestSegment(const detail::PathElements& elements, Point point,
                           const HitRadius& radius) {
+    const detail::PathBoxes* boxes = elements.boxes();
     if (const std::ptrdiff_t index = elementAt(elements, point); index > 0) return {index, 0, 0};
     Nearest nearest(point, radius);
-    if (const detail::PathBoxes* boxes = elements.boxes()) {
+    if (boxes != nullptr) {
         lookAtLikelyOnes(nearest, elements, *boxes, point);
     } else {
         lookAtAll(nearest, elements);
