@@ -98,10 +98,13 @@ void PathElements::append(PathElementType type, const Point* points) {
 }
 
 void PathElements::appendLines(const Point* points, std::size_t count) {
-    if (block_ == nullptr || kMostPoints - pointCount_ <= count) {
+    const bool fitsInline = block_ == nullptr && count_ + count <= kInlineElements &&
+                            pointCount_ + count <= kInlinePoints;
+    if (fitsInline || kMostPoints - pointCount_ <= count) {
         for (std::size_t i = 0; i < count; ++i) append(PathElementType::LineTo, points + i);
         return;
     }
+    if (block_ == nullptr) moveToBlock();
     prepareChange();
     for (std::size_t i = 0; i < count; ++i) {
         block_->words.push_back((pointCount_++ << 2) |
