@@ -119,6 +119,13 @@ TEST_CASE("a path becomes a drawing, of a part of it or all") {
                   "<path stroke=\"#ccc\" stroke-width=\"0.06875\" d=\"M0,0 L20,0 L20,10\"/>\n"
                   "  <path stroke=\"#222\" stroke-width=\"0.06875\" d=\"M5,0 L10,0\"/>") !=
           std::string::npos);
+    const std::string smooth = shell(go + "qznote path --smooth --to data").output;
+    CHECK(smooth.find('C') != std::string::npos);
+    const std::string stroke =
+        shell("echo 'M0 0L10 1L20 4L30 9L40 16L50 25L40 35Z' | qznote path --fit 1 --to data")
+            .output;
+    CHECK(stroke.find('C') != std::string::npos);
+    CHECK(shell("echo 'M0 0' | qznote path --fit x").code == 2);
 }
 
 }  // namespace QZCore

@@ -46,10 +46,11 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {Command::Action::Render, "--to", 1},        {Command::Action::Render, "-o", 1},
-    {Command::Action::Render, "--style", 1},     {Command::Action::Render, "--images", 0},
-    {Command::Action::MeasurePath, "--to", 1},   {Command::Action::MeasurePath, "-o", 1},
-    {Command::Action::MeasurePath, "--trim", 2},
+    {Command::Action::Render, "--to", 1},          {Command::Action::Render, "-o", 1},
+    {Command::Action::Render, "--style", 1},       {Command::Action::Render, "--images", 0},
+    {Command::Action::MeasurePath, "--to", 1},     {Command::Action::MeasurePath, "-o", 1},
+    {Command::Action::MeasurePath, "--trim", 2},   {Command::Action::MeasurePath, "--fit", 1},
+    {Command::Action::MeasurePath, "--smooth", 0},
 };
 
 /// What is said of an option with too few or too many values, by their right number.
@@ -148,6 +149,13 @@ private:
         if (name == "-o") command_.output = values[0];
         if (name == "--to") setFormat(values[0]);
         if (name == "--trim") setPart(values[0], values[1]);
+        if (name == "--fit") setFit(values[0]);
+        if (name == "--smooth") command_.smooths = true;
+    }
+
+    void setFit(std::string_view distance) {
+        command_.fit = numberOf(distance);
+        if (!command_.fit || *command_.fit < 0) fault_ = "--fit needs a distance";
     }
 
     void setPart(std::string_view from, std::string_view to) {
@@ -187,7 +195,8 @@ std::string helpText() {
   qznote render [NOTE.md] [--to FORMAT] [-o FILE] [--style SHEET] [--images]
   qznote detect [NOTE.md]
   qznote outline [NOTE.md]
-  qznote path [DATA.txt] [--trim FROM TO] [--to FORMAT] [-o FILE]
+  qznote path [DATA.txt] [--fit DISTANCE] [--smooth] [--trim FROM TO]
+              [--to FORMAT] [-o FILE]
   qznote --help | --version
 
 Notes and path data are UTF-8 text. Without a name, or with "-", the standard
@@ -214,11 +223,15 @@ blanks a level. The header or the line before a list stands above it.
 
 path reads the data of an SVG path, the value of its attribute d, and draws or
 measures it. Data are read up to the first mistake, which is reported.
+  --fit DISTANCE puts smooth curves in place of lines drawn by hand, at most
+                 that far from their points; corners stay
+  --smooth       rounds the corners of closed lines
   --trim FROM TO keeps what lies between two lengths along the path
   --to FORMAT    report: length, bounds (x, y, width, height) and convex hull,
                  control points included
                  data: path data with the commands M, L, C and Z alone
-                 svg: a drawing; with --trim the whole path shows behind it
+                 svg: a drawing; the path as it was shows behind what is made
+                 of it
                  Without it, svg for a FILE that ends in .svg, else report.
   -o FILE        as above
 

@@ -32,6 +32,10 @@ struct Command {
     std::optional<OutputFormat> format{};
     /// Whether images are fetched.
     bool fetchesImages = false;
+    /// The largest distance from the path's points to a curve fitted to them.
+    std::optional<float> fit{};
+    /// Whether the path's corners are rounded.
+    bool smooths = false;
     /// What is kept of the path; all of it when absent.
     std::optional<Part> part{};
 };

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "QZCore/bezier/curve_fitting.h"
 #include "QZCore/bezier/svg_path_data.h"
 #include "QZCore/foundation/log.h"
 #include "QZCore/platform/url_loading.h"
@@ -119,11 +120,18 @@ std::string written(const BezierPath& path, const BezierPath& whole, OutputForma
     }
 }
 
+BezierPath changedPath(const Command& command, BezierPath path) {
+    constexpr float kCornerAngle = 0.7F;  // about an eighth of a turn
+    if (command.fit) path = smartCurveFitPath(path, *command.fit * *command.fit, kCornerAngle);
+    if (command.smooths) path = path.smoothedPathWithCornerRadius(0).value_or(path);
+    if (command.part) path = path.bezierPathFromLength(command.part->from, command.part->to);
+    return path;
+}
+
 int measurePath(const Command& command, const Data& data) {
     const String text = fromUTF8(textOf(data));
     const auto [whole, length] = readSvgPathData(text);
-    BezierPath path = whole;
-    if (command.part) path = whole.bezierPathFromLength(command.part->from, command.part->to);
+    const BezierPath path = changedPath(command, whole);
     const int code = output(command.output, written(path, whole, formatOf(command)));
     if (length == text.size()) return code;
     return failure(nameOf(command.input) + " is no path data from character " +
