@@ -25,6 +25,12 @@ set(QZCORE_PUBLIC_HEADERS
   codecs/transforming.h
   codecs/typed_access.h
   codecs/uuid.h
+  dates.h
+  dates/calendar.h
+  dates/date_components.h
+  dates/dates.h
+  dates/placeholder_dates.h
+  dates/work_time.h
   export.h
   foundation.h
   foundation/data.h
@@ -74,6 +80,7 @@ set(QZCORE_PUBLIC_HEADERS
   platform/fonts.h
   platform/images.h
   platform/regex.h
+  platform/time_zone.h
   platform/url_loading.h
   richtext.h
   richtext/editing_commands.h

@@ -1,0 +1,118 @@
+#include "dates/work_hours.h"
+
+#include <algorithm>
+#include <bit>
+
+#include "foundation/civil_date.h"
+
+namespace QZCore {
+namespace {
+
+using Time = std::optional<DateComponents>;
+
+/// The fields of a time of day that count; nothing without an hour.
+Time usableTime(const Time& time) {
+    if (!time || !isDefined(time->hour)) return std::nullopt;
+    return DateComponents{.hour = time->hour, .minute = time->minute, .second = time->second};
+}
+
+/// The same time of day or, when that lies days away, one that is as certainly
+/// before or behind all of its day.
+void bringNear(Time& time) {
+    if (!time) return;
+    constexpr std::int64_t kFarAway = 72;
+    const auto nearly = [](std::int64_t value, std::int64_t most) {
+        return isDefined(value) ? std::clamp(value, -most, most) : value;
+    };
+    // Larger fields decide only together with smaller ones of the same size.
+    constexpr std::int64_t kHuge = std::int64_t{1} << 40;
+    const bool hasMinute = isDefined(time->minute);
+    const std::int64_t minutes =
+        nearly(time->hour, kHuge) * 60 + (hasMinute ? nearly(time->minute, kHuge) : 0);
+    const std::int64_t near = std::clamp(minutes, -kFarAway * 60, kFarAway * 60);
+    time->hour = floorDivided(near, 60);
+    if (hasMinute) time->minute = near - time->hour * 60;
+    time->second = nearly(time->second, kFarAway * 3600);
+}
+
+bool isMidnight(const Time& time) { return !time || (time->hour == 0 && time->minute == 0); }
+
+/// Where the seconds of the two whole hours begin that an instant may fall
+/// behind: in the hour of a time without a minute, the seconds decide.
+bool isBehindSecond(const Time& time, std::int64_t secondOfMinute, bool hasFraction) {
+    const std::int64_t second = isDefined(time->second) ? time->second : secondOfMinute;
+    return secondOfMinute > second || (secondOfMinute == second && hasFraction);
+}
+
+}  // namespace
+
+WorkHours::WorkHours(const TimeZone& zone, Instant receiver,
+                     const std::optional<WorkDays>& workDays,
+                     const std::optional<DateComponents>& workStartTime,
+                     const std::optional<DateComponents>& workEndTime)
+    : zone_(zone), start_(usableTime(workStartTime)), end_(usableTime(workEndTime)) {
+    if (workDays && workDays->count() != 0 && workDays->count() != 7) {
+        hasWorkDays_ = true;
+        weekdays_ = 0;
+        for (unsigned weekday = 1; weekday <= 7; ++weekday) {
+            if (workDays->containsIndex(weekday)) weekdays_ |= 1U << weekday;
+        }
+        const std::uint64_t last = *workDays->lastIndex();
+        closingWeekday_ = last < 7 ? static_cast<int>(last) + 1 : 0;
+    }
+    const bool isAllDay = isMidnight(start_) && isMidnight(end_);
+    if (isAllDay || (hasBothTimes() && !surrounds(receiver))) {
+        start_.reset();
+        end_.reset();
+    }
+    bringNear(start_);
+    bringNear(end_);
+}
+
+int WorkHours::workDaysOfWeek() const { return std::popcount(weekdays_); }
+
+/// The second of a time on a day, with the given minute and second where it has
+/// none. A missing time is an instant before year 1.
+std::int64_t WorkHours::timeOn(std::int64_t day, const Time& time, std::int64_t minute,
+                               std::int64_t second) const {
+    constexpr DateComponents kBeforeYear1{
+        .year = 0, .month = 0, .day = 0, .hour = 0, .minute = 0, .second = 0};
+    DateComponents fields = kBeforeYear1;
+    if (time) {
+        const CivilDate date = civilFromDays(day);
+        fields = {.year = date.year >= 1 ? date.year : 1 - date.year,  // the era is not kept
+                  .month = date.month,
+                  .day = date.day,
+                  .hour = time->hour,
+                  .minute = isDefined(time->minute) ? time->minute : minute,
+                  .second = isDefined(time->second) ? time->second : second};
+    }
+    // A time that is too far away never comes.
+    return secondOfComponents(zone_, fields).value_or(kFarthestSecond + 1);
+}
+
+bool WorkHours::surrounds(Instant receiver) const {
+    const LocalTime local = localTimeAt(zone_, receiver.second);
+    const std::int64_t minute = local.second / 60 % 60;
+    const std::int64_t second = local.second % 60;
+    const Instant start{timeOn(local.day, start_, minute, second), 0};
+    const Instant end{timeOn(local.day, end_, minute, second), 0};
+    return start <= receiver && receiver <= end;
+}
+
+WorkHours::Span WorkHours::spanOnDay(std::int64_t day, std::int64_t secondOfMinute,
+                                     bool hasFraction) const {
+    const auto firstBehind = [&](const Time& time) {
+        if (time && !isDefined(time->minute)) {
+            Time hour = *time;
+            if (!isBehindSecond(time, secondOfMinute, hasFraction)) ++hour->hour;
+            hour->minute = 0;
+            hour->second = 0;
+            return timeOn(day, hour, 0, 0);
+        }
+        return timeOn(day, time, 0, secondOfMinute) + (hasFraction ? 0 : 1);
+    };
+    return {firstBehind(start_), firstBehind(end_) - 1};
+}
+
+}  // namespace QZCore

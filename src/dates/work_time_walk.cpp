@@ -1,0 +1,196 @@
+#include <algorithm>
+
+#include "dates/repeating_steps.h"
+#include "dates/work_steps.h"
+
+namespace QZCore {
+namespace {
+
+// Next to a change of the zone every day is looked at by itself.
+constexpr std::int64_t kMargin = 5 * kSecondsPerDay;
+
+}  // namespace
+
+/// The steps are numbered from 1, in the direction of the walk. Those of one
+/// local day with one offset are counted together, and whole weeks far from
+/// every change of the zone are counted once.
+class WorkTimeWalk::Search {
+public:
+    Search(const WorkTimeWalk& walk, std::int64_t direction, std::uint64_t target,
+           std::int64_t lastStep)
+        : walk_(walk),
+          direction_(direction),
+          stepsPerWeek_(kSecondsPerWeek / walk.step_),
+          stepsPerCycle_(kSecondsPerCycle / walk.step_),
+          target_(target),
+          lastStep_(lastStep) {}
+
+    [[nodiscard]] std::uint64_t count() const { return count_; }
+
+    /// Whether the target was met; then `at` holds the step that did.
+    bool run(std::int64_t& at) {
+        while (step_ < lastStep_) {
+            if (!isWithinReach(secondOf(step_ + 1))) return false;
+            if (!skipCycles()) return false;
+            const ZonePeriod period = walk_.zone_.periodAt(secondOf(step_ + 1));
+            const std::int64_t weeks = weeksWithin(period);
+            if (weeks < 2) {
+                if (countTo(step_ + kMargin / walk_.step_, at)) return true;
+                continue;
+            }
+            const std::uint64_t before = count_;
+            if (countTo(step_ + stepsPerWeek_, at)) return true;
+            if (!skipWeeks(weeks - 1, count_ - before, period)) return false;
+        }
+        return false;
+    }
+
+private:
+    [[nodiscard]] std::int64_t secondOf(std::int64_t step) const {
+        return walk_.receiver_.second + direction_ * step * walk_.step_;
+    }
+
+    /// The number of the last step that is not beyond `second`, seen in the
+    /// direction of the walk.
+    [[nodiscard]] std::int64_t lastStepTo(std::int64_t second) const {
+        return floorDivided(direction_ * (second - walk_.receiver_.second), walk_.step_);
+    }
+
+    /// How many whole weeks lie ahead, away from both ends of the period.
+    [[nodiscard]] std::int64_t weeksWithin(const ZonePeriod& period) const {
+        const std::int64_t next = secondOf(step_ + 1);
+        const std::int64_t first = std::max(period.begin, -2 * kFarthestSecond) + kMargin;
+        const std::int64_t last = std::min(period.end, 2 * kFarthestSecond) - kMargin;
+        if (next < first || next > last) return 0;
+        const std::int64_t end =
+            direction_ > 0 ? std::min(last, kFarthestSecond) : std::max(first, -kFarthestSecond);
+        return direction_ * (end - next) / kSecondsPerWeek;
+    }
+
+    /// Takes up to `weeks` weeks that each hold `perWeek` steps that count, and
+    /// stays before the target. Returns whether there is hope of meeting it.
+    bool skipWeeks(std::int64_t weeks, std::uint64_t perWeek, const ZonePeriod& period) {
+        weeks = std::min(weeks, (lastStep_ - step_) / stepsPerWeek_);
+        if (perWeek > 0) {
+            weeks = static_cast<std::int64_t>(
+                std::min(static_cast<std::uint64_t>(weeks), (target_ - count_ - 1) / perWeek));
+        } else if (direction_ > 0 ? period.end == INT64_MAX : period.begin == INT64_MIN) {
+            return false;
+        }
+        step_ += weeks * stepsPerWeek_;
+        count_ += static_cast<std::uint64_t>(weeks) * perWeek;
+        return true;
+    }
+
+    /// Takes whole cycles of the calendar in the same way, once what one holds
+    /// is known.
+    bool skipCycles() {
+        if (direction_ < 0 || secondOf(step_) < kCyclesFrom) return true;
+        if (markStep_ == 0) {
+            markStep_ = step_;
+            markCount_ = count_;
+        }
+        if (step_ - markStep_ < stepsPerCycle_) return true;
+        const std::uint64_t perCycle = count_ - markCount_;
+        if (perCycle == 0) return false;
+        const std::int64_t reach = (kFarthestSecond - secondOf(step_)) / kSecondsPerCycle;
+        const std::int64_t room = std::min(reach, (lastStep_ - step_) / stepsPerCycle_);
+        const std::uint64_t cycles =
+            std::min(static_cast<std::uint64_t>(room), (target_ - count_ - 1) / perCycle);
+        step_ += static_cast<std::int64_t>(cycles) * stepsPerCycle_;
+        count_ += cycles * perCycle;
+        markStep_ = step_;
+        markCount_ = count_;
+        return true;
+    }
+
+    /// Counts the steps up to `end`. Whether the target was met.
+    bool countTo(std::int64_t end, std::int64_t& at) {
+        end = std::min(end, lastStep_);
+        if (markStep_ != 0) end = std::min(end, markStep_ + stepsPerCycle_);
+        while (step_ < end) {
+            if (countDay(end, at)) return true;
+        }
+        return false;
+    }
+
+    /// Counts the steps up to `end` that lie in the local day and the period of
+    /// the next one.
+    bool countDay(std::int64_t end, std::int64_t& at) {
+        const std::int64_t next = secondOf(step_ + 1);
+        const ZonePeriod period = walk_.zone_.periodAt(next);
+        const std::int64_t local = next + period.offset;
+        const std::int64_t day = floorDivided(local, kSecondsPerDay);
+        const std::int64_t midnight = day * kSecondsPerDay - period.offset;
+        WorkHours::Span span{std::max(midnight, period.begin),
+                             std::min(midnight + kSecondsPerDay, period.end) - 1};
+        const std::int64_t lastOfDay =
+            std::min(end, lastStepTo(direction_ > 0 ? span.last : span.first));
+        if (walk_.hours_.isWorkDay(weekdayOfDay(day))) {
+            if (walk_.times_ == Times::Count) narrowToHours(span, day, local);
+            const std::int64_t first =
+                std::max(step_, lastStepTo((direction_ > 0 ? span.first : span.last) - direction_));
+            const std::int64_t last =
+                std::min(lastOfDay, lastStepTo(direction_ > 0 ? span.last : span.first));
+            if (last > first) {
+                const auto counted = static_cast<std::uint64_t>(last - first);
+                if (counted >= target_ - count_) {
+                    at = first + static_cast<std::int64_t>(target_ - count_);
+                    return true;
+                }
+                count_ += counted;
+            }
+        }
+        step_ = lastOfDay;
+        return false;
+    }
+
+    void narrowToHours(WorkHours::Span& span, std::int64_t day, std::int64_t local) const {
+        const WorkHours::Span hours = walk_.hours_.spanOnDay(
+            day, local - floorDivided(local, 60) * 60, walk_.receiver_.fraction > 0);
+        span = {std::max(span.first, hours.first), std::min(span.last, hours.last)};
+    }
+
+    const WorkTimeWalk& walk_;
+    std::int64_t direction_;
+    std::int64_t stepsPerWeek_;
+    std::int64_t stepsPerCycle_;
+    std::uint64_t target_;
+    std::int64_t lastStep_;
+    std::int64_t step_ = 0;
+    std::uint64_t count_ = 0;
+    // Where a cycle was begun to be measured; 0 for nowhere.
+    std::int64_t markStep_ = 0;
+    std::uint64_t markCount_ = 0;
+};
+
+std::optional<std::int64_t> WorkTimeWalk::secondAfter(std::int64_t amount) const {
+    const std::int64_t direction = amount < 0 ? -1 : 1;
+    const auto steps = static_cast<std::uint64_t>(amount);
+    const std::uint64_t target = amount < 0 ? 0 - steps : steps;
+    const std::int64_t reach = 2 * kFarthestSecond / step_;
+    if (target == 0) return receiver_.second;
+    std::int64_t at = 0;
+    if (hours_.hasWorkDays()) {
+        if (!Search(*this, direction, target, reach).run(at)) return std::nullopt;
+    } else {
+        if (target > static_cast<std::uint64_t>(reach)) return std::nullopt;
+        at = static_cast<std::int64_t>(target);
+    }
+    const std::int64_t second = receiver_.second + direction * at * step_;
+    return isWithinReach(second) ? std::optional(second) : std::nullopt;
+}
+
+std::int64_t WorkTimeWalk::stepsUntil(Instant to) const {
+    // The walk goes on while it is earlier than `to`, fractions included.
+    const std::int64_t end = to.second + (receiver_.fraction < to.fraction ? 1 : 0);
+    if (receiver_.second >= end) return 0;
+    const std::int64_t steps = (end - 1 - receiver_.second) / step_ + 1;
+    if (!hours_.hasWorkDays()) return steps;
+    std::int64_t at = 0;
+    Search search(*this, 1, UINT64_MAX, steps);
+    search.run(at);
+    return static_cast<std::int64_t>(search.count());
+}
+
+}  // namespace QZCore
