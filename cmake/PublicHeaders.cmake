@@ -1,5 +1,6 @@
 # Every installed header, one by one.
 set(QZCORE_PUBLIC_HEADERS
+  QZCore.h
   bezier.h
   bezier/affine_transform.h
   bezier/bezier_path.h

@@ -39,9 +39,11 @@ public:
 
 private:
     struct Stopped final : WallClock {
-        explicit Stopped(Date date) : date(date) {}
-        [[nodiscard]] Date now() const override { return date; }
-        Date date;
+        explicit Stopped(Date date) : now_(date) {}
+        [[nodiscard]] Date now() const override { return now_; }
+
+    private:
+        Date now_;
     };
 
     std::shared_ptr<const WallClock> before_;
