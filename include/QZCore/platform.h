@@ -7,4 +7,5 @@
 #include "QZCore/platform/fonts.h"
 #include "QZCore/platform/images.h"
 #include "QZCore/platform/regex.h"
+#include "QZCore/platform/time_zone.h"
 #include "QZCore/platform/url_loading.h"
