@@ -64,17 +64,17 @@ bool removeColorEmojiFonts(FlatRuns& text) {
     if (!std::ranges::any_of(distinctSets(text), isEmojiSet)) return false;
     std::vector<FlatRun> cleaned;
     cleaned.reserve(text.runs.size());
-    const auto fontOf = [&](std::size_t run) { return text.palette.at(text.runs[run].id).font(); };
+    const auto isEmoji = [&](std::size_t run) {
+        return hasColorEmojiFont(text.palette.at(text.runs[run].id));
+    };
     for (std::size_t i = 0; i < text.runs.size();) {
-        if (!hasColorEmojiFont(text.palette.at(text.runs[i].id))) {
+        if (!isEmoji(i)) {
             appendRun(cleaned, text.runs[i].end, text.runs[i].id);
             ++i;
             continue;
         }
         std::size_t end = i + 1;
-        while (end < text.runs.size() && fontOf(end) != nullptr && *fontOf(end) == *fontOf(i)) {
-            ++end;
-        }
+        while (end < text.runs.size() && isEmoji(end)) ++end;
         const TextAttributes* beside = neighbour(text, i, end, cleaned);
         const TextAttributes taken = beside == nullptr ? TextAttributes() : *beside;
         for (; i < end; ++i) {

@@ -21,8 +21,9 @@ inline constexpr StringView kColorEmojiFace = u"AppleColorEmoji";
 /// whether there was a link.
 bool removeLinkFormatting(FlatRuns& text);
 
-/// Gives each stretch of colour emoji the font of its neighbour, found in the
-/// same way, or no font. Returns whether there was such a stretch.
+/// Gives each stretch of colour emoji, of whatever sizes, the font of its
+/// neighbour, found in the same way, or no font. Returns whether there was such
+/// a stretch.
 bool removeColorEmojiFonts(FlatRuns& text);
 
 /// The runs of `text` after both, as far as a flat text reaches.

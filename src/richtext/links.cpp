@@ -29,29 +29,29 @@ void RichText::appendLinkedString(StringView string, const Value& withURL,
     appendAttributedString(hyperlinkFromString(string, withURL, withColor, underline));
 }
 
-void RichText::addFormattingForLinks(const std::optional<Color>& withColor, bool underline) {
+void RichText::addFormattingForLinksWithColor(const std::optional<Color>& color, bool underline) {
     const AttributeNames& names = attributeNames();
     if (!containsLinks()) return;
-    const bool hasColor = !isNoColor(withColor);
+    const bool hasColor = !isNoColor(color);
     const AttributeName changed = hasColor ? names.foregroundColor : NSUnderlineColorAttributeName;
-    const Value color = hasColor ? Value::boxed(*withColor) : Value();
+    const Value value = hasColor ? Value::boxed(*color) : Value();
     changeAttributes({0, length()}, [&](const TextAttributes& before) {
         if (before.link() == nullptr) return before;
-        return before.withAttribute(changed, color)
+        return before.withAttribute(changed, value)
             .withAttribute(names.underlineStyle, underline ? 1 : 0);
     });
 }
 
-RichText RichText::stringByAddingFormattingForLinks(const std::optional<Color>& withColor,
-                                                    bool underline) const {
+RichText RichText::stringByAddingFormattingForLinksWithColor(const std::optional<Color>& color,
+                                                             bool underline) const {
     RichText copy = *this;
-    copy.addFormattingForLinks(withColor, underline);
+    copy.addFormattingForLinksWithColor(color, underline);
     return copy;
 }
 
-void RichText::removeFormattingForLinks([[maybe_unused]] bool includingColor,
-                                        [[maybe_unused]] bool underline,
-                                        [[maybe_unused]] bool linkAttribute) {
+void RichText::removeFormattingForLinksIncludingColor([[maybe_unused]] bool color,
+                                                      [[maybe_unused]] bool underline,
+                                                      [[maybe_unused]] bool linkAttribute) {
     FlatRuns text = FlatTextAccess::flattenedRuns(*this, {0, kFlatTextLimit - 1});
     if (removeLinkFormatting(text)) FlatTextAccess::replaceRuns(*this, 0, text);
 }

@@ -42,12 +42,12 @@ void removeLinksOneByOne(RichText& text) {
 
 void removeEmojiFontsOneByOne(RichText& text) {
     for (std::size_t at = 0; at < text.length();) {
+        // From the start of the run, which may have grown by the one before.
         const auto run = text.attributeAtIndex(NSFontAttributeName, at);
-        const Range range{at, run.range.end() - at};
-        at = range.end();
+        at = run.range.end();
         const Font* font = run.value.boxedValue<Font>();
         if (font == nullptr || font->faceName != u"AppleColorEmoji") continue;
-        takeOver(text, NSFontAttributeName, range, neighbourOf(text, range));
+        takeOver(text, NSFontAttributeName, run.range, neighbourOf(text, run.range));
     }
 }
 
@@ -62,12 +62,13 @@ TEST_CASE("links and emoji fonts give way to what stands beside them, run by run
         RichText literal = text;
         RichText swept = text;
         removeLinksOneByOne(literal);
-        swept.removeFormattingForLinks(false, false, false);
+        swept.removeFormattingForLinksIncludingColor(false, false, false);
         REQUIRE(swept == literal);
         REQUIRE_FALSE(swept.containsLinks());
         removeEmojiFontsOneByOne(literal);
         swept.removeAppleColorEmoji();
         REQUIRE(swept == literal);
+        REQUIRE_FALSE(swept.containsAppleColorEmoji());
         REQUIRE(swept.string() == text.string());
     }
 }
@@ -99,7 +100,7 @@ TEST_CASE("formatting links sets their colour or takes that of their underline")
     RichText text(u"link", before);
     text.appendString(u" and text");
     const auto formatted = [&](const std::optional<Color>& with) {
-        const RichText result = text.stringByAddingFormattingForLinks(with, true);
+        const RichText result = text.stringByAddingFormattingForLinksWithColor(with, true);
         CHECK(result.attributesAtIndex(4) == TextAttributes());
         return result.attributesAtIndex(0);
     };

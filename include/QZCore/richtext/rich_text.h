@@ -194,18 +194,18 @@ public:
     /// Appends such a link.
     void appendLinkedString(StringView string, const Value& withURL,
                             const std::optional<Color>& withColor, bool underline);
-    /// Shows every link in `withColor`; without one, or with the clear colour,
+    /// Shows every link in `color`; without one, or with the clear colour,
     /// links keep their colour and lose the colour of their underline. Sets
     /// the underline style of every link to 1 or 0.
-    void addFormattingForLinks(const std::optional<Color>& withColor, bool underline);
+    void addFormattingForLinksWithColor(const std::optional<Color>& color, bool underline);
     /// A copy with links formatted in that way.
-    [[nodiscard]] RichText stringByAddingFormattingForLinks(const std::optional<Color>& withColor,
-                                                            bool underline) const;
+    [[nodiscard]] RichText stringByAddingFormattingForLinksWithColor(
+        const std::optional<Color>& color, bool underline) const;
     /// Takes every link away and gives its text the foreground colour and the
     /// underline style of what stands before it, or at the start of the text
     /// of what stands behind it, unless that is the last character or nothing.
     /// The three flags are not consulted: all three are always removed.
-    void removeFormattingForLinks(bool includingColor, bool underline, bool linkAttribute);
+    void removeFormattingForLinksIncludingColor(bool color, bool underline, bool linkAttribute);
 
     // ---- Small changes ----
 
