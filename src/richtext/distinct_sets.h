@@ -26,7 +26,8 @@ namespace QZCore {
     const Value* first = sets.empty() ? nullptr : sets.front()->find(name);
     return std::ranges::all_of(sets, [&](const TextAttributes* set) {
         const Value* value = set->find(name);
-        return value == nullptr || first == nullptr ? value == first : *value == *first;
+        if (value == nullptr || first == nullptr) return value == first;
+        return value == first || *value == *first;
     });
 }
 

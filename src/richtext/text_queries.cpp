@@ -19,7 +19,7 @@ bool anyRun(const RichText& text, Test test) {
 }
 
 bool sameFamilyAndSize(const Font* a, const Font* b) {
-    if (a == nullptr || b == nullptr) return a == b;
+    if (a == nullptr || b == nullptr || a == b) return a == b;
     return a->familyName == b->familyName && a->pointSize == b->pointSize;
 }
 
