@@ -5,6 +5,7 @@
 #include "QZCore/foundation/preferences.h"
 #include "QZCore/richtext/font_manager.h"
 #include "richtext/attribute_names.h"
+#include "richtext/character_changes.h"
 #include "richtext/store.h"
 
 namespace QZCore {
@@ -132,29 +133,35 @@ TextAttributes typingAttributesAfter(const TextAttributes& attributes,
     return withParagraphStyle(attributes, change);
 }
 
-void changeCharacters(RichText& text, Range range, const CharacterChange& change) {
-    range = clampedRange(range, text.length());
+void CharacterChanges::changeCharacters(Range range) {
+    range = clampedRange(range, text_.length());
     if (range.length == 0) return;
-    const CharacterCommand command(change);
-    const RichTextEditing editing(text);
+    const CharacterCommand command(change_);
+    const RichTextEditing editing(text_);
     // The font that raised text takes is the one at the start, as it is by then.
-    const TextAttributes first = command.changed(text.attributesAtIndex(range.location));
+    const TextAttributes first = command.changed(text_.attributesAtIndex(range.location));
     const Font font = command.rescaledFont(first);
-    AttributeSweep::change(text, range, [&](const TextAttributes& before) {
+    AttributeSweep::change(text_, range, [&](const TextAttributes& before) {
         TextAttributes after = command.changed(before);
         if (command.changesSuperscript()) after = command.superscripted(after, font);
         return command.withBackground(after);
     });
-    text.fixAttributesInRange({0, text.length()});
+    text_.fixAttributesInRange(isConsistent_ ? range : Range{0, text_.length()});
+    isConsistent_ = true;
+}
+
+void changeCharacters(RichText& text, Range range, const CharacterChange& change) {
+    CharacterChanges(text, change).changeCharacters(range);
 }
 
 void changeCharacters(RichText& text, const std::vector<Range>& ranges,
                       TextAttributes& typingAttributes, const CharacterChange& change) {
+    CharacterChanges changes(text, change);
     for (const Range& range : ranges) {
         if (range.length == 0) {
             typingAttributes = typingAttributesAfter(typingAttributes, change);
         } else if (range.location != kNotFound) {
-            changeCharacters(text, range, change);
+            changes.changeCharacters(range);
         }
     }
 }

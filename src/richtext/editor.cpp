@@ -6,6 +6,7 @@
 #include "QZCore/model/undo_manager.h"
 #include "color/system_colors.h"
 #include "platform/composed_characters.h"
+#include "richtext/paragraph_fixing.h"
 
 namespace QZCore {
 namespace {
@@ -29,6 +30,10 @@ std::vector<Range> selectionOf(std::vector<Range> ranges, std::size_t length) {
         selection.push_back(ranges.empty() ? Range{length, 0} : ranges.front());
     }
     return selection;
+}
+
+bool startsParagraph(const RichText& text, std::size_t position) {
+    return position == 0 || paragraphEndsBefore(text.string({position - 1, 2}), 1);
 }
 
 /// Where the composed character before `end` starts, which must be above 0.
@@ -87,9 +92,8 @@ void RichTextEditor::setUndoManager(std::shared_ptr<UndoManager> undoManager) {
 TextAttributes RichTextEditor::attributesForTyping() const {
     const Range range = selectedRange();
     if (range.length > 0) return textStorage().attributesAtIndex(range.location);
-    const Range paragraph = textStorage().paragraphRangeForRange(range);
     const std::size_t last = textStorage().length() - 1;
-    const bool isInside = range.location > paragraph.location;
+    const bool isInside = !startsParagraph(textStorage(), range.location);
     return textStorage().attributesAtIndex(std::min(range.location - (isInside ? 1 : 0), last));
 }
 
@@ -132,7 +136,7 @@ void RichTextEditor::insertText(StringView string) {
 }
 
 void RichTextEditor::insertAttributedText(const RichText& string) {
-    type(selectedRanges(), string);
+    type(selectedRanges(), RichText(string));  // held here, as it may be the text itself
 }
 
 void RichTextEditor::deleteBackward() {
@@ -159,12 +163,12 @@ void RichTextEditor::type(const std::vector<Range>& ranges, const RichText& stri
 
 /// Replaces the first range and deletes the others.
 void RichTextEditor::replace(const std::vector<Range>& ranges, const RichText& string) {
+    const RichTextEditing editing(state_.storage);
     for (std::size_t i = ranges.size(); i-- > 1;) {
         state_.storage.deleteCharactersInRange(ranges[i]);
     }
     state_.storage.replaceCharactersInRange(ranges.front(), string);
     const Range inserted{ranges.front().location, string.length()};
-    state_.storage.fixAttributesInRange(inserted);
     state_.selection = {{inserted.end(), 0}};
     if (!string.empty()) state_.typing = string.attributesAtIndex(string.length() - 1);
 }

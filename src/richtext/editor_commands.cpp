@@ -3,6 +3,7 @@
 
 #include "QZCore/richtext/editor.h"
 #include "platform/letter_case.h"
+#include "richtext/character_changes.h"
 #include "richtext/flat_text.h"
 
 namespace QZCore {
@@ -56,21 +57,26 @@ void RichTextEditor::changeFontFamily(const CharacterChange& change) {
     if (isFieldEditor_) return;
     const std::vector<Range> ranges = rangesForUserCharacterAttributeChange();
     if (ranges.empty()) return;
-    if (ranges.front().length == 0) {
-        noteTextChange();
-        state_.typing = typingAttributesAfter(state_.typing, change);
-        const Font* font = state_.typing.font();
-        if (font != nullptr && delegate_ != nullptr) {
-            delegate_->selectedFontDidChange(*this, *font, false);
-        }
-        return;
-    }
+    if (ranges.front().length == 0) return changeTyping(change);
     registerUndo(stateBeforeChange(), u"Font");
+    CharacterChanges changes(state_.storage, change);
     for (const Range& range : ranges) {
-        changeCharacters(state_.storage, range, change);
+        changes.changeCharacters(range);
         noteStorageChange();
         noteTextChange();
     }
+}
+
+/// A font panel is shown the converted font, not the smaller one of raised
+/// text: its size is the one to choose from.
+void RichTextEditor::changeTyping(const CharacterChange& change) {
+    noteTextChange();
+    CharacterChange onBaseline = change;
+    onBaseline.superscript = CharacterChange::kKeepSuperscript;
+    const TextAttributes converted = typingAttributesAfter(state_.typing, onBaseline);
+    state_.typing = typingAttributesAfter(state_.typing, change);
+    if (converted.font() == nullptr || delegate_ == nullptr) return;
+    delegate_->selectedFontDidChange(*this, *converted.font(), false);
 }
 
 void RichTextEditor::changeFontFamily(const std::optional<String>& fontFamily,
@@ -150,7 +156,7 @@ void RichTextEditor::setTextExactLineHeight(float lineHeight) {
 
 void RichTextEditor::setTextCapitalization(std::int64_t capitalization) {
     const auto letterCase = letterCaseForCode(capitalization);
-    if (!letterCase || !isEnabled_ || textStorage().empty()) return;
+    if (!letterCase || !isEnabled_ || selectedRange().length == 0) return;
     registerUndo(stateBeforeChange(), u"Capitalization");
     std::size_t moved = 0;  // wraps round when the text gets shorter
     for (Range& range : state_.selection) {

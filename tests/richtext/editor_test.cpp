@@ -34,12 +34,14 @@ struct Notices final : RichTextEditorDelegate {
     void selectedFontDidChange(RichTextEditor& /*editor*/, const Font& shown,
                                bool isMultiple) override {
         lastFont = shown.faceName;
+        lastFontSize = shown.pointSize;
         CHECK_FALSE(isMultiple);
     }
 
     int text = 0;
     int storage = 0;
     String lastFont;
+    double lastFontSize = 0;
 };
 
 }  // namespace
@@ -161,15 +163,19 @@ TEST_CASE("an editor formats its selection, or what is typed next, and tells wha
     CHECK(notices.lastFont == u"Sans-Bold");
     CHECK(editor.textStorage().numberOfRuns() == 1);
     CHECK(editor.isTextBold());
+    editor.setTextSuperscript(1);
+    CHECK(notices.lastFontSize == 12);  // that of text on the baseline
+    CHECK(editor.typingAttributes().font()->pointSize == 9);
+    editor.setTextSuperscript(0);
     editor.insertText(u"!");
     CHECK(editor.textStorage().attributesAtIndex(13) == inFont(u"Sans-Bold"));
-    CHECK(notices.text == 2);
+    CHECK(notices.text == 4);
     CHECK(notices.storage == 1);
 
     editor.setSelectedRanges({{8, 3}, {0, 2}, {1, 2}, {5, 0}, {90, 4}});
     CHECK(editor.selectedRanges() == std::vector<Range>{{0, 3}, {8, 3}});
     editor.setTextItalic(true);
-    CHECK(notices.text == 4);  // one for each range
+    CHECK(notices.text == 6);  // one for each range
     CHECK(editor.isTextItalic());
     CHECK_FALSE(editor.isTextBold());
     CHECK(editor.canApplyTrait(kFontBold));
@@ -180,7 +186,7 @@ TEST_CASE("an editor formats its selection, or what is typed next, and tells wha
     CHECK(editor.textStorage().attributesAtIndex(7).paragraphStyle()->alignment ==
           TextAlignment::Center);
     CHECK(editor.textStorage().attributesAtIndex(8).paragraphStyle() == nullptr);
-    CHECK(notices.text == 4);  // the storage tells of paragraphs
+    CHECK(notices.text == 6);  // the storage tells of paragraphs
 
     const RichText before = editor.textStorage();
     editor.setFieldEditor(true);
@@ -213,12 +219,32 @@ TEST_CASE("what is typed takes the attributes before it in its paragraph") {
     editor.insertText(u"xyz");
     CHECK(editor.textStorage().string() == u"axyz\nc");
     CHECK(editor.selectedRange() == Range{4, 0});
+    editor.setSelectedRange({1, 2});
+    editor.insertAttributedText(editor.textStorage());
+    CHECK(editor.textStorage().string() == u"aaxyz\ncz\nc");
+    CHECK(editor.selectedRange() == Range{7, 0});
     editor.setTextStorage(RichText(u"e\u0301\U0001F1E9\U0001F1EA"));
     editor.deleteBackward();
     CHECK(editor.textStorage().string() == u"e\u0301");
     editor.deleteBackward();
     editor.deleteBackward();
     CHECK(editor.textStorage().empty());
+}
+
+TEST_CASE("paragraphs that are joined anywhere take one style") {
+    const auto paragraph = [](StringView string, TextAlignment alignment) {
+        const ParagraphStyle style{.alignment = alignment};
+        return RichText(string, {{NSParagraphStyleAttributeName, Value::boxed(style)}});
+    };
+    RichText text = paragraph(u"ab\n", TextAlignment::Left);
+    text.appendAttributedString(paragraph(u"cd\n", TextAlignment::Right));
+    text.appendAttributedString(paragraph(u"ef", TextAlignment::Center));
+    RichTextEditor editor(text);
+    editor.setSelectedRanges({{0, 1}, {5, 1}});
+    editor.deleteBackward();
+    CHECK(editor.textStorage().string() == u"b\ncdef");
+    CHECK(editor.textStorage().attributeAtIndex(NSParagraphStyleAttributeName, 5).range ==
+          Range{2, 4});
 }
 
 TEST_CASE("letters are told and written in another case, each with its attributes") {
@@ -319,6 +345,17 @@ TEST_CASE("undoing gives back the very same text, and redoing the changed one") 
         while (manager->canRedo() && !(editor.textStorage() == text)) manager->redo();
         REQUIRE(editor.textStorage() == text);
     }
+}
+
+TEST_CASE("a command that finds nothing selected is no step") {
+    const auto manager = std::make_shared<UndoManager>();
+    Notices notices;
+    RichTextEditor editor(RichText(u"ab"));
+    editor.setUndoManager(manager);
+    editor.setDelegate(&notices);
+    editor.setTextCapitalization(1);
+    CHECK_FALSE(manager->canUndo());
+    CHECK(notices.text == 0);
 }
 
 TEST_CASE("typing that goes on is one step, until the steps are forgotten") {

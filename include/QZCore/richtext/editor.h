@@ -36,7 +36,8 @@ public:
     virtual void textDidChange(RichTextEditor& editor);
     /// The storage was changed and its attributes have been fixed.
     virtual void textStorageDidProcessEditing(RichTextEditor& editor);
-    /// A font panel should show `font`.
+    /// A font panel should show `font`, that of typed text before it is raised or
+    /// lowered.
     virtual void selectedFontDidChange(RichTextEditor& editor, const Font& font, bool isMultiple);
 };
 
@@ -217,6 +218,7 @@ private:
     void restore(const State& before, StringView actionName);
     void type(const std::vector<Range>& ranges, const RichText& string);
     void replace(const std::vector<Range>& ranges, const RichText& string);
+    void changeTyping(const CharacterChange& change);
     void noteStorageChange();
     void noteTextChange();
     [[nodiscard]] TextAttributes attributesForTyping() const;
