@@ -36,11 +36,13 @@ bool startsParagraph(const RichText& text, std::size_t position) {
     return position == 0 || paragraphEndsBefore(text.string({position - 1, 2}), 1);
 }
 
-/// Where the composed character before `end` starts, which must be above 0.
-std::size_t composedCharacterStart(const RichText& text, std::size_t end) {
+/// Where the composed character or the line end before `end` starts, which must
+/// be above 0.
+std::size_t deletedCharacterStart(const RichText& text, std::size_t end) {
     constexpr std::size_t kLongest = 1024;
     const std::size_t from = end > kLongest ? end - kLongest : 0;
     const String before = text.string({from, end - from});
+    if (before.ends_with(u"\r\n")) return end - 2;
     std::size_t start = 0;
     for (std::size_t next = 0; next < before.size();) {
         start = next;
@@ -143,7 +145,7 @@ void RichTextEditor::deleteBackward() {
     const Range range = selectedRange();
     if (range.length > 0) return type(selectedRanges(), RichText());
     if (range.location == 0) return;
-    const std::size_t start = composedCharacterStart(textStorage(), range.location);
+    const std::size_t start = deletedCharacterStart(textStorage(), range.location);
     type({{start, range.location - start}}, RichText());
 }
 

@@ -227,6 +227,7 @@ TEST_CASE("what is typed takes the attributes before it in its paragraph") {
     editor.deleteBackward();
     CHECK(editor.textStorage().string() == u"e\u0301");
     editor.deleteBackward();
+    editor.insertText(u"\r\n");
     editor.deleteBackward();
     CHECK(editor.textStorage().empty());
 }

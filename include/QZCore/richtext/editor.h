@@ -105,7 +105,7 @@ public:
     /// Replaces the selection in the same way by text with its own attributes.
     void insertAttributedText(const RichText& string);
     /// Deletes the selection or, at an insertion point, the composed character
-    /// before it.
+    /// before it; a carriage return together with its line feed.
     void deleteBackward();
 
     // ---- The two core commands ----
