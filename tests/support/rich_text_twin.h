@@ -27,6 +27,22 @@ struct RichTextTwin {
         splice(clampedRange(range, text.size()), with.string(), taken);
     }
 
+    /// Whether `other` has this text and these attributes, in runs that cut it
+    /// into parts without a gap, no two neighbours equal.
+    [[nodiscard]] bool matches(const RichText& other) const {
+        if (other.string() != text || attributes.size() != text.size()) return false;
+        std::size_t at = 0;
+        const auto runs = other.runs();
+        for (const TextRunView run : runs) {
+            if (run.range.location != at || run.range.length == 0) return false;
+            if (at > 0 && attributes[at - 1] == run.attributes) return false;
+            for (; at < run.range.end(); ++at) {
+                if (at >= text.size() || attributes[at] != run.attributes) return false;
+            }
+        }
+        return at == text.size();
+    }
+
     template <class Change>
     void change(Range range, Change newAttributes) {
         range = clampedRange(range, text.size());
