@@ -6,32 +6,37 @@
 #include "richtext/attribute_names.h"
 
 namespace QZCore {
-
-bool paragraphEndsBefore(StringView text, std::size_t position) {
-    const char16_t last = text[position - 1];
-    if (last == u'\r') return position == text.size() || text[position] != u'\n';
-    return last == u'\n' || last == 0x2029;
-}
-
 namespace {
 
 constexpr std::uint16_t kLineFeed = u'\n';
 constexpr std::uint16_t kReturn = u'\r';
 constexpr std::uint16_t kParagraphSeparator = 0x2029;
 
+/// The first unit at or after `from` that ends paragraphs, or the length.
+std::size_t findParagraphEndUnit(StringView text, std::size_t from) {
+    return findFirst(text, from, [](auto c) {
+        return (c == kLineFeed) | (c == kReturn) | (c == kParagraphSeparator);
+    });
+}
+
 /// The end of the paragraph that is open at `from`, at most `limit`.
 std::size_t paragraphEnd(StringView text, std::size_t from, std::size_t limit) {
-    const auto mayEnd = [](auto c) {
-        return (c == kLineFeed) | (c == kReturn) | (c == kParagraphSeparator);
-    };
     const StringView part = text.substr(0, limit);
-    while ((from = findFirst(part, from, mayEnd)) < limit) {
+    while ((from = findParagraphEndUnit(part, from)) < limit) {
         if (paragraphEndsBefore(text, ++from)) break;
     }
     return from;
 }
 
 }  // namespace
+
+bool holdsParagraphEnd(StringView text) { return findParagraphEndUnit(text, 0) < text.size(); }
+
+bool paragraphEndsBefore(StringView text, std::size_t position) {
+    const char16_t last = text[position - 1];
+    if (last == u'\r') return position == text.size() || text[position] != u'\n';
+    return last == kLineFeed || last == kParagraphSeparator;
+}
 
 /// Makes the runs of the fixed text one after the other. The open paragraph
 /// goes on until a run ends with its last character.

@@ -15,6 +15,9 @@ namespace QZCore {
 /// paragraph separator.
 [[nodiscard]] bool paragraphEndsBefore(StringView text, std::size_t position);
 
+/// Whether `text` holds a unit that ends paragraphs.
+[[nodiscard]] bool holdsParagraphEnd(StringView text);
+
 /// Fixes texts, one after the other, whose runs are numbered by one palette.
 class ParagraphFixing {
 public:

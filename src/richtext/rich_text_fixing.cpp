@@ -4,6 +4,7 @@
 #include "QZCore/platform/fonts.h"
 #include "QZCore/richtext/rich_text.h"
 #include "richtext/attribute_fixing.h"
+#include "richtext/paragraph_fixing.h"
 
 namespace QZCore {
 namespace {
@@ -17,7 +18,7 @@ std::size_t paragraphStart(const RichText& text, std::size_t position) {
         // One unit more, to tell a carriage return alone from one before a
         // line feed.
         const String part = text.string({from, position - from + 1});
-        for (std::size_t at = position - from; at > 0; --at) {
+        for (std::size_t at = holdsParagraphEnd(part) ? position - from : 0; at > 0; --at) {
             if (paragraphEndsBefore(part, at)) return from + at;
         }
         position = from;
@@ -30,7 +31,8 @@ std::size_t paragraphEnd(const RichText& text, std::size_t position) {
     while (position < text.length()) {
         const std::size_t from = position == 0 ? 0 : position - 1;
         const String part = text.string({from, kStep});
-        for (std::size_t at = position - from; at < part.size(); ++at) {
+        const bool mayEnd = holdsParagraphEnd(part);
+        for (std::size_t at = position - from; mayEnd && at < part.size(); ++at) {
             if (at > 0 && paragraphEndsBefore(part, at)) return from + at;
         }
         position = from + part.size();
@@ -55,11 +57,11 @@ void RichText::fixAttributesInRange(Range range) {
     }
     const Range paragraphs = paragraphRangeForRange(range);
     if (!hasFlatForm(paragraphs.length)) return;
-    const FlatText before = FlatTextAccess::flattened(*this, paragraphs);
-    FlatText fixed = before;
+    FlatText fixed = FlatTextAccess::flattened(*this, paragraphs);
+    const std::vector<FlatRun> before = fixed.runs;
     const auto catalog = sharedFontCatalog();
     AttributeFixing(*catalog).fixAttributes(fixed);
-    if (fixed.runs == before.runs) return;
+    if (fixed.runs == before) return;
     const int depth = std::exchange(editingDepth_, 0);  // no edit to fix again
     FlatTextAccess::replaceRuns(*this, paragraphs.location, fixed);
     editingDepth_ = depth;
