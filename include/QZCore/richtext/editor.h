@@ -190,9 +190,9 @@ public:
     /// The active alignment, a number of `TextAlignment`; natural when there is
     /// no paragraph style.
     [[nodiscard]] std::int64_t textHorizontalAlignment() const;
-    /// How the selected letters are written: 1 upper case, else 2 lower case,
-    /// else 4 capitalized, else 0. Text without letters is upper case; an empty
-    /// selection gives 0.
+    /// How the letters of the first selected range are written: 1 upper case,
+    /// else 2 lower case, else 4 capitalized, else 0. Text without letters is
+    /// upper case; an empty selection gives 0.
     [[nodiscard]] std::int64_t textCapitalization() const;
     /// `RichText::canApplyTrait` of the first selected range; at an insertion
     /// point or at the end of the text, whether the typing font can have it.
