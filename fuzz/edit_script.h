@@ -25,11 +25,12 @@ public:
     }
 
     /// Few different units, among them all that end paragraphs or stand for
-    /// attachments; now and then more than one piece of a text holds.
-    QZCore::String text() {
+    /// attachments; now and then up to `most` of the same.
+    QZCore::String text(std::size_t most) {
         constexpr QZCore::StringView kUnits = u"ab C\n\r\u2029\uFFFC";
         const std::size_t size = byte();
-        if (size > 240) return QZCore::String((size - 240) * 500, kUnits[below(kUnits.size())]);
+        if (size > 240)
+            return QZCore::String((size - 240) * most / 15, kUnits[below(kUnits.size())]);
         QZCore::String text(size % 6, u' ');
         for (char16_t& unit : text) unit = kUnits[below(kUnits.size())];
         return text;
