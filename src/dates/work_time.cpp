@@ -80,8 +80,7 @@ WorkDays::WorkDays(std::initializer_list<std::uint64_t> weekdays)
 
 WorkDays::WorkDays(std::vector<std::uint64_t> weekdays) : weekdays_(std::move(weekdays)) {
     std::ranges::sort(weekdays_);
-    const auto repeated = std::ranges::unique(weekdays_);
-    weekdays_.erase(repeated.begin(), repeated.end());
+    weekdays_.erase(std::unique(weekdays_.begin(), weekdays_.end()), weekdays_.end());
 }
 
 bool WorkDays::containsIndex(std::uint64_t weekday) const {

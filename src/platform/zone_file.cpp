@@ -5,7 +5,6 @@
 namespace QZCore {
 namespace {
 
-constexpr std::size_t kHeaderLength = 44;
 constexpr std::size_t kTypeLength = 6;
 // RFC 8536 allows offsets of a little more than a day.
 constexpr std::int32_t kLargestOffset = 26 * 3600;
