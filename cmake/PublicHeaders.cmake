@@ -90,6 +90,7 @@ set(QZCORE_PUBLIC_HEADERS
   richtext/font_manager.h
   richtext/paragraph_style.h
   richtext/rich_text.h
+  richtext/rtf.h
   richtext/text_attributes.h
   richtext/text_lists.h)
 list(TRANSFORM QZCORE_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/include/QZCore/)

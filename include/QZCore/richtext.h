@@ -1,5 +1,5 @@
 // Rich text: paragraph styles, attributes, the text itself, stored font styles,
-// the font manager that turns one into the other, and the editor.
+// the font manager that turns one into the other, RTF, and the editor.
 #pragma once
 
 #include "QZCore/richtext/editing_commands.h"
@@ -8,5 +8,6 @@
 #include "QZCore/richtext/font_manager.h"
 #include "QZCore/richtext/paragraph_style.h"
 #include "QZCore/richtext/rich_text.h"
+#include "QZCore/richtext/rtf.h"
 #include "QZCore/richtext/text_attributes.h"
 #include "QZCore/richtext/text_lists.h"

@@ -21,6 +21,7 @@
 
 #include "QZCore/color/color.h"
 #include "QZCore/export.h"
+#include "QZCore/foundation/data.h"
 #include "QZCore/foundation/range.h"
 #include "QZCore/foundation/text.h"
 #include "QZCore/foundation/value.h"
@@ -184,6 +185,19 @@ public:
     [[nodiscard]] bool containsWritingDirection() const;
     /// How many `kAttachmentCharacter`s the text has.
     [[nodiscard]] std::size_t numberOfAttachments() const;
+
+    // ---- Serialising ----
+
+    /// The text as an RTF document: ASCII, the rest of Unicode as escapes. What
+    /// RTF holds is told in "QZCore/richtext/rtf.h". PNG and JPEG images stand
+    /// in the document; for others their alternative text does.
+    [[nodiscard]] Data RTF() const;
+    /// The text with its images as files: a ZIP archive, not compressed, of
+    /// the document "TXT.rtf" and of "image-1.png" and so on, to which the
+    /// document refers.
+    [[nodiscard]] Data RTFD() const;
+    /// `RTFD` when the text has attachments, else `RTF`.
+    [[nodiscard]] Data RTForRTFD() const;
 
     // ---- Links ----
 

@@ -1,0 +1,20 @@
+// The look of paragraphs in RTF.
+#pragma once
+
+#include <string>
+
+#include "QZCore/richtext/paragraph_style.h"
+#include "richtext/rtf_tables.h"
+
+namespace QZCore {
+
+/// The width of the text on the page that readers take when a document names
+/// none, in points.
+inline constexpr double kRtfTextWidth = 432;
+
+/// The control words that set all of the look of a paragraph. Lists are no part
+/// of it. Of the text blocks around a paragraph only the innermost is written,
+/// without its margin.
+[[nodiscard]] std::string rtfParagraphCodes(const ParagraphStyle& style, RtfTables& tables);
+
+}  // namespace QZCore
