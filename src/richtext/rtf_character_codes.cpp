@@ -4,11 +4,10 @@
 #include <cmath>
 
 #include "richtext/rtf_underlines.h"
+#include "richtext/rtf_units.h"
 
 namespace QZCore {
 namespace {
-
-constexpr double kHalfPoints = 2;
 
 /// A number of half points, kept within what readers take.
 std::int32_t halfPointsOf(double points) {

@@ -75,8 +75,8 @@ class RtfLists {
 public:
     struct Level {
         std::int32_t numbering = 0;
-        double indent = 0;
-        double firstIndent = 0;  // counted from `indent`
+        std::int32_t indent = 0;       // in twips
+        std::int32_t firstIndent = 0;  // counted from `indent`
     };
 
     /// A control word of the table of lists, or of that of their overrides.

@@ -2,12 +2,12 @@
 
 #include "richtext/rtf_code_pages.h"
 #include "richtext/rtf_definitions.h"
+#include "richtext/rtf_units.h"
 
 namespace QZCore {
 namespace {
 
 constexpr int kBoldWeight = 9;
-constexpr double kHalfPoints = 2;
 
 std::uint32_t traitsOf(const RtfCharacter& character) {
     return (character.isBold ? kFontBold : 0U) | (character.isItalic ? kFontItalic : 0U);

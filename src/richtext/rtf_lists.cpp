@@ -1,12 +1,6 @@
 #include "richtext/rtf_definitions.h"
 
 namespace QZCore {
-namespace {
-
-constexpr double kTwipsPerPoint = 20;
-
-}  // namespace
-
 void RtfLists::word(std::string_view name, RtfNumber number) {
     if (name == "list") {
         open_.clear();
@@ -19,9 +13,9 @@ void RtfLists::word(std::string_view name, RtfNumber number) {
     } else if (name == "levelnfc" || name == "levelnfcn") {
         open_.back().numbering = number.value;
     } else if (name == "li") {
-        open_.back().indent = number.length() / kTwipsPerPoint;
+        open_.back().indent = number.length();
     } else if (name == "fi") {
-        open_.back().firstIndent = number.length() / kTwipsPerPoint;
+        open_.back().firstIndent = number.length();
     }
 }
 

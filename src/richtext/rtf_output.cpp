@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "richtext/rtf_units.h"
+
 namespace QZCore {
 namespace {
 
@@ -21,7 +23,6 @@ void appendNumber(std::string& bytes, std::int64_t number) {
 }  // namespace
 
 std::int32_t twipsOf(double points) {
-    constexpr double kTwipsPerPoint = 20;
     constexpr double kMost = 1'000'000;
     if (std::isnan(points)) return 0;
     return static_cast<std::int32_t>(

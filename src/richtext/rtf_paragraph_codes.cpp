@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "richtext/rtf_units.h"
+
 namespace QZCore {
 namespace {
 
@@ -34,14 +36,13 @@ void writeDirection(WritingDirection direction, RtfOutput& out) {
 /// A multiple, an exact height or a least height, whichever comes first, is
 /// what all readers know; what else there is follows in words that some know.
 void writeLineHeights(const ParagraphStyle& style, RtfOutput& out) {
-    constexpr double kTwelfths = 240;  // of a line, in twentieths
     constexpr double kMost = 100;
     const std::int32_t least = twipsOf(style.minimumLineHeight);
     const std::int32_t most = twipsOf(style.maximumLineHeight);
     const double multiple = std::isnan(style.lineHeightMultiple) ? 0 : style.lineHeightMultiple;
     const bool isExact = least > 0 && least == most;
     if (multiple > 0) {
-        out.word("sl", std::lround(std::min(multiple, kMost) * kTwelfths));
+        out.word("sl", std::lround(std::min(multiple, kMost) * kPartsOfALine));
         out.word("slmult", 1);
     } else if (least > 0) {
         out.word("sl", isExact ? -least : least);

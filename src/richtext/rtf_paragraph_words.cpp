@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "richtext/rtf_units.h"
 #include "richtext/rtf_word_tables.h"
 
 namespace QZCore {
@@ -7,8 +8,6 @@ namespace {
 
 using P = RtfParagraph;
 using N = RtfNumber;
-
-constexpr double kTwipsPerPoint = 20;
 
 double pointsOf(N n) { return n.length() / kTwipsPerPoint; }
 
@@ -40,8 +39,8 @@ const RtfWordRow kWords[] = {
     row("qj", align<TextAlignment::Justified>),
     row("ltrpar", [](P& p, N) { p.style.baseWritingDirection = WritingDirection::LeftToRight; }),
     row("rtlpar", [](P& p, N) { p.style.baseWritingDirection = WritingDirection::RightToLeft; }),
-    row("li", [](P& p, N n) { p.style.headIndent = pointsOf(n); }),
-    row("fi", [](P& p, N n) { p.style.firstLineHeadIndent = pointsOf(n); }),
+    row("li", [](P& p, N n) { p.indent = n.length(); }),
+    row("fi", [](P& p, N n) { p.firstIndent = n.length(); }),
     row("ri", [](P& p, N n) { p.style.tailIndent = 0 - pointsOf(n); }),
     row("sb", [](P& p, N n) { p.style.paragraphSpacingBefore = pointsOf(n); }),
     row("sa", [](P& p, N n) { p.style.paragraphSpacing = pointsOf(n); }),

@@ -4,10 +4,11 @@
 
 #include "foundation/hexadecimal.h"
 
+#include "richtext/rtf_units.h"
+
 namespace QZCore {
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
 constexpr double kPercent = 100;
 
 std::shared_ptr<const Image> decoded(DataView bytes) {

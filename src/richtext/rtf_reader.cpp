@@ -175,6 +175,7 @@ private:
         if (marker.empty() || !isText(group_.destination)) return;
         const bool isSymbol = definitions_.fonts.codePageOf(markerLook_.font) == kSymbolCodePage;
         builder_.setMarker(marker, isSymbol ? group_.character : markerLook_);
+        openParagraph_ = group_.paragraph;
     }
 
     void showPicture(const TextAttachment& picture) {
@@ -363,7 +364,7 @@ private:
     std::int32_t defaultFont_ = -1;
     RtfGroup group_{.paragraph = std::make_shared<RtfParagraph>()};
     std::vector<RtfGroup> groups_;                                    // around the open one
-    std::shared_ptr<RtfParagraph> openParagraph_ = group_.paragraph;  // of the last text
+    std::shared_ptr<RtfParagraph> openParagraph_ = group_.paragraph;  // of the last text or marker
     std::string bytes_;                                               // not decoded yet
     String decoded_;
     std::size_t standInsLeft_ = 0;

@@ -51,12 +51,13 @@ struct RtfCharacter {
 
 /// The look of a paragraph.
 struct RtfParagraph {
-    /// What RTF says as rich text does, apart from what follows. The indent of
-    /// the first line counts from that of the others.
+    /// What RTF says as rich text does, apart from what follows.
     ParagraphStyle style{};
-    std::int32_t lineHeight = 0;  // in twips, or 240ths of a line
+    std::int32_t indent = 0;       // in twips, as all lengths here
+    std::int32_t firstIndent = 0;  // counted from `indent`
+    std::int32_t lineHeight = 0;   // or in 240ths of a line
     bool lineHeightIsMultiple = false;
-    std::int32_t least = 0;  // in twips
+    std::int32_t least = 0;
     std::int32_t most = 0;
     std::int32_t fill = 0;  // a number of the colour table
     std::int32_t padding = 0;

@@ -5,18 +5,15 @@
 
 #include "foundation/hash.h"
 #include "richtext/attribute_names.h"
+#include "richtext/rtf_units.h"
 
 namespace QZCore {
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
-constexpr double kTwelfths = 240;  // of a line, in twentieths
-constexpr double kHalfPoints = 2;
-
 void setLineHeights(const RtfParagraph& paragraph, ParagraphStyle& style) {
     const double height = paragraph.lineHeight;
     if (paragraph.lineHeightIsMultiple) {
-        style.lineHeightMultiple = std::max(height, 0.0) / kTwelfths;
+        style.lineHeightMultiple = std::max(height, 0.0) / kPartsOfALine;
     } else {
         style.minimumLineHeight = std::abs(height) / kTwipsPerPoint;
         if (height < 0) style.maximumLineHeight = style.minimumLineHeight;
@@ -122,7 +119,8 @@ TextAttributes RtfTextBuilder::attributesOf(const RtfCharacter& character) const
 
 ParagraphStyle RtfTextBuilder::styleOf(const RtfParagraph& paragraph) const {
     ParagraphStyle style = paragraph.style;
-    style.firstLineHeadIndent += style.headIndent;
+    style.headIndent = paragraph.indent / kTwipsPerPoint;
+    style.firstLineHeadIndent = (paragraph.indent + paragraph.firstIndent) / kTwipsPerPoint;
     setLineHeights(paragraph, style);
     const std::optional<Color>& fill = definitions_.colors.at(paragraph.fill);
     const bool isFilled = paragraph.fill != 0 && fill.has_value();
@@ -138,9 +136,10 @@ ParagraphStyle RtfTextBuilder::itemStyleOf(const RtfParagraph& paragraph,
                                            ParagraphStyle style) const {
     const auto& levels = definitions_.lists.levelsOf(paragraph.list);
     const auto level = static_cast<std::size_t>(paragraph.level);
-    if (level < levels.size() && style.headIndent == 0) {
-        style.headIndent = levels[level].indent;
-        style.firstLineHeadIndent = levels[level].indent + levels[level].firstIndent;
+    if (level < levels.size() && paragraph.indent == 0) {
+        style.headIndent = levels[level].indent / kTwipsPerPoint;
+        style.firstLineHeadIndent =
+            (levels[level].indent + levels[level].firstIndent) / kTwipsPerPoint;
     }
     for (std::size_t above = 0; above < level; ++above) {
         const bool isKnown = above < levels.size();

@@ -53,12 +53,13 @@ RtfToken RtfTokenizer::afterBackslash() {
     return {.kind = Kind::Symbol, .text = take(1)};
 }
 
+/// Without digits it is a symbol without meaning.
 RtfToken RtfTokenizer::hexadecimalByte() {
-    take(1);
-    RtfToken token{.kind = Kind::Byte};
+    RtfToken token{.kind = Kind::Symbol, .text = take(1)};
     for (int digit = 0; digit < 2 && !rest_.empty(); ++digit) {
         const auto value = hexDigitValue(static_cast<unsigned char>(rest_.front()));
         if (!value) break;
+        token.kind = Kind::Byte;
         token.number = token.number << 4 | static_cast<std::int32_t>(*value);
         take(1);
     }
