@@ -1,5 +1,6 @@
 #include "richtext/rtf_picture_reader.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "foundation/hexadecimal.h"
@@ -11,7 +12,10 @@ namespace {
 
 constexpr double kPercent = 100;
 
+/// The caution image needs no decoder, and is known again as what it is.
 std::shared_ptr<const Image> decoded(DataView bytes) {
+    const Image& caution = cautionImage();
+    if (std::ranges::equal(bytes, caution.data)) return std::make_shared<const Image>(caution);
     auto image = sharedImageDecoder()->decode(bytes);
     return image ? std::make_shared<const Image>(*std::move(image)) : nullptr;
 }

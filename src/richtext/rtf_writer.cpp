@@ -76,7 +76,6 @@ private:
         std::size_t list;
         std::size_t level;
 
-        friend bool operator==(const Look&, const Look&) = default;
         friend bool operator<(const Look& a, const Look& b) {
             return std::tie(a.style, a.list, a.level) < std::tie(b.style, b.list, b.level);
         }
@@ -85,13 +84,13 @@ private:
     /// Paragraphs look like the one before unless something else is said.
     void writeParagraphCodes(const Look& look, const ParagraphStyle& style,
                              const std::optional<RtfListItem>& item) {
-        if (hasLook_ && look == look_) return;
-        const auto [at, isNew] = looks_.try_emplace(look);
-        if (isNew)
-            at->second = item ? itemCodes(look, style, *item) : rtfParagraphCodes(style, tables_);
-        body_.words(at->second);
-        look_ = look;
-        hasLook_ = true;
+        std::string& codes = looks_[look];
+        if (codes.empty()) {
+            codes = item ? itemCodes(look, style, *item) : rtfParagraphCodes(style, tables_);
+        }
+        if (codes == look_) return;
+        look_ = codes;
+        body_.words(look_);
     }
 
     /// The reader draws the marker at the indent of the first line, and a tab
@@ -133,20 +132,31 @@ private:
     void writeRun(std::size_t end, bool withParagraphEnd) {
         const TextAttributes& look = attributes();
         const Value* link = look.link();
-        if (link != nullptr) {
-            body_.openGroup();
-            body_.word("field");
-            body_.openIgnorableGroup("fldinst");
-            body_.text(hyperlinkInstruction(*link));
-            body_.mark("}{");
-            body_.word("fldrslt");
-        }
-        body_.words(codesOf(id()));
+        if (link != nullptr) openField(*link);
+        writeCharacterCodes(link != nullptr);
         writeText(look, end);
         if (withParagraphEnd) body_.paragraphEnd();
         endIsWritten_ = withParagraphEnd;
         if (link != nullptr) body_.mark("}}");
         advanceTo(end);
+    }
+
+    void openField(const Value& link) {
+        body_.openGroup();
+        body_.word("field");
+        body_.openIgnorableGroup("fldinst");
+        body_.text(hyperlinkInstruction(link));
+        body_.mark("}{");
+        body_.word("fldrslt");
+    }
+
+    /// Text looks like that before unless something else is said. What is said
+    /// in a group of its own holds there only.
+    void writeCharacterCodes(bool isInOwnGroup) {
+        const std::string& codes = codesOf(id());
+        if (codes == characters_) return;
+        body_.words(codes);
+        if (!isInOwnGroup) characters_ = codes;
     }
 
     void writeText(const TextAttributes& look, std::size_t end) {
@@ -183,8 +193,8 @@ private:
     RtfOutput body_;
     std::vector<std::string> codes_;  // by the numbers of attributes
     std::map<Look, std::string> looks_;
-    Look look_{};  // of the paragraph before
-    bool hasLook_ = false;
+    std::string_view look_;        // of the paragraph before
+    std::string_view characters_;  // of the text before
     bool endIsWritten_ = false;
     std::size_t at_ = 0;
     std::size_t run_ = 0;

@@ -65,6 +65,8 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
         {"printf '# a\\n**b** **c** \\\\*d*\\n' | qznote detect", 0,
          "escapes: 1\nheaders: 1\nbold: 2\ncontains rich text: yes\nis a list: no\n"
          "is a table: no\nis a task outline: no\n"},
+        {"printf '**a**' | qznote render --to rtf | grep -c '^{.rtf1'", 0, "1\n"},
+        {"printf 'a' | qznote render -o a.rtf; head -c 6 a.rtf", 0, "{\\rtf1"},
         {"printf 'a' > a.md; qznote outline a.md", 0, ""},
         {"qznote outline no-such-note.md", 1, "qznote: cannot read no-such-note.md\n"},
         {"echo '- a' | qznote outline > /dev/full", 1, "qznote: cannot write the output\n"},

@@ -31,6 +31,7 @@ struct FormatName {
 
 constexpr FormatName kFormats[] = {
     {Command::Action::Render, "html", OutputFormat::Html},
+    {Command::Action::Render, "rtf", OutputFormat::Rtf},
     {Command::Action::Render, "ansi", OutputFormat::Ansi},
     {Command::Action::Render, "text", OutputFormat::Text},
     {Command::Action::Render, "runs", OutputFormat::Runs},
@@ -205,11 +206,13 @@ the note shows, and fences around code may name its language.
 
 render writes the note with its Markdown carried out:
   --to FORMAT    html: a page that needs no other file
+                 rtf: a document for word processors
                  ansi: text with colours and links for a terminal
                  text: text alone
                  runs: every stretch of text with its attributes, one a line
-                 Without it, html for a FILE that ends in .html or .htm, else
-                 ansi when it is shown in a terminal, else text.
+                 Without it, html for a FILE that ends in .html or .htm, rtf for
+                 one that ends in .rtf, else ansi when it is shown in a terminal,
+                 else text.
   -o FILE        writes to FILE, whole or not at all; "-" is the standard output
   --style SHEET  a style sheet, as a property list or in JSON
   --images       fetches images from http, https and file addresses; without it

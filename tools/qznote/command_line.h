@@ -9,7 +9,7 @@
 namespace qznote {
 
 /// The forms that a note is written in, and those of a path.
-enum class OutputFormat { Html, Ansi, Text, Runs, Report, PathData, Svg };
+enum class OutputFormat { Html, Rtf, Ansi, Text, Runs, Report, PathData, Svg };
 
 /// A part of a path, between two lengths along it.
 struct Part {

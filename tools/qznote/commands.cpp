@@ -63,6 +63,7 @@ OutputFormat formatOf(const Command& command) {
     if (command.output.ends_with(".html") || command.output.ends_with(".htm")) {
         return OutputFormat::Html;
     }
+    if (command.output.ends_with(".rtf")) return OutputFormat::Rtf;
     const bool isShown = command.output == kStandardStream && ::isatty(STDOUT_FILENO) == 1;
     return isShown ? OutputFormat::Ansi : OutputFormat::Text;
 }
@@ -80,6 +81,8 @@ std::string written(const RichText& text, const StyleSheet& styles, const Comman
     switch (formatOf(command)) {
         case OutputFormat::Html:
             return htmlPage(text, {.title = titleOf(command), .base = baseAttributes(styles)});
+        case OutputFormat::Rtf:
+            return std::string(textOf(text.RTF()));
         case OutputFormat::Ansi:
             return ansiText(text, baseAttributes(styles));
         case OutputFormat::Runs:
