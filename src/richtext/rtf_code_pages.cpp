@@ -16,15 +16,24 @@ struct CharsetRow {
 };
 
 constexpr std::array kCharsets{
-    CharsetRow{0, 1252},   CharsetRow{kSymbolCharset, kSymbolCodePage},
-    CharsetRow{77, 10000}, CharsetRow{128, 932},
-    CharsetRow{129, 949},  CharsetRow{130, 1361},
-    CharsetRow{134, 936},  CharsetRow{136, 950},
-    CharsetRow{161, 1253}, CharsetRow{162, 1254},
-    CharsetRow{163, 1258}, CharsetRow{177, 1255},
-    CharsetRow{178, 1256}, CharsetRow{186, 1257},
-    CharsetRow{204, 1251}, CharsetRow{222, 874},
-    CharsetRow{238, 1250}, CharsetRow{255, 437},
+    CharsetRow{0, 1252},
+    CharsetRow{kSymbolCharset, kSymbolCodePage},
+    CharsetRow{77, kOldRomanCodePage},
+    CharsetRow{128, 932},
+    CharsetRow{129, 949},
+    CharsetRow{130, 1361},
+    CharsetRow{134, 936},
+    CharsetRow{136, 950},
+    CharsetRow{161, 1253},
+    CharsetRow{162, 1254},
+    CharsetRow{163, 1258},
+    CharsetRow{177, 1255},
+    CharsetRow{178, 1256},
+    CharsetRow{186, 1257},
+    CharsetRow{204, 1251},
+    CharsetRow{222, 874},
+    CharsetRow{238, 1250},
+    CharsetRow{255, 437},
 };
 
 struct CodePageRow {
@@ -39,7 +48,7 @@ constexpr std::array kMultibytePages{
 };
 
 std::string nameOf(std::int32_t codePage) {
-    if (codePage == 10000) return "macintosh";
+    if (codePage == kOldRomanCodePage) return "macintosh";
     if (codePage == 28591) return "ISO-8859-1";
     const bool isWindows = codePage == 874 || (codePage >= 1250 && codePage <= 1258);
     return (isWindows ? "windows-" : "cp") + std::to_string(codePage);

@@ -19,6 +19,7 @@ inline constexpr std::int32_t kSymbolCharset = 2;
 /// A code page of our own for them: byte b is U+F000 + b, the bullet apart.
 inline constexpr std::int32_t kSymbolCodePage = 42;
 inline constexpr std::int32_t kWesternCodePage = 1252;
+inline constexpr std::int32_t kOldRomanCodePage = 10000;
 
 /// Decodes bytes in any code page.
 class RtfCodePages {

@@ -5,10 +5,7 @@
 #include <vector>
 
 #include "richtext/rtf_code_pages.h"
-#include "richtext/rtf_definitions.h"
-#include "richtext/rtf_hyperlink.h"
-#include "richtext/rtf_picture_reader.h"
-#include "richtext/rtf_text_builder.h"
+#include "richtext/rtf_contents.h"
 #include "richtext/rtf_tokens.h"
 
 namespace QZCore {
@@ -20,11 +17,12 @@ constexpr std::size_t kDeepest = 65'000;
 /// Texts have 32-bit positions, and no document becomes a text twice as long.
 constexpr std::size_t kLongest = std::size_t{1} << 31;
 
-/// Reads a document token by token.
+/// Reads a document token by token: follows its groups, decodes its bytes, and
+/// changes the look of what comes by its words.
 class RtfReader {
 public:
     RtfReader(std::string_view document, const RtfSurroundings& surroundings)
-        : tokens_(document), pictures_(surroundings) {}
+        : tokens_(document), contents_(surroundings, group_) {}
 
     [[nodiscard]] std::optional<RichText> read() {
         do {
@@ -34,7 +32,7 @@ public:
             if (groups_.size() > kDeepest) return std::nullopt;
         } while (!groups_.empty());
         flush();
-        return builder_.finish(*openParagraph_);
+        return contents_.finish();
     }
 
 private:
@@ -72,7 +70,7 @@ private:
     void takeBinary(std::string_view bytes) {
         if (isStandIn()) return;
         flush();
-        if (group_.destination == Picture) pictures_.binary(bytes);
+        contents_.receiveBinary(bytes, group_);
     }
 
     /// Whether what has come stands in for a character of Unicode, which has
@@ -92,19 +90,34 @@ private:
                 group_.isIgnorable = true;
                 return;
             case '~':
-                return receive(u"\u00A0");
+                return takeCharacter(u'\u00A0');
             case '-':
-                return receive(u"\u00AD");
+                return takeCharacter(u'\u00AD');
             case '_':
-                return receive(u"\u2011");
+                return takeCharacter(u'\u2011');
             case '\t':
-                return receive(u"\t");
+                return takeCharacter(u'\t');
             case '\n':
             case '\r':
                 return takeCharacter(u'\n');
             default:
                 return;
         }
+    }
+
+    void takeCharacter(char16_t character) {
+        if (character == u'\n') return contents_.endParagraph(group_);
+        contents_.receive({&character, 1}, group_);
+    }
+
+    /// Decodes the bytes that have come.
+    void flush() {
+        if (bytes_.empty()) return;
+        decoded_.clear();
+        const std::int32_t codePage = contents_.codePageIn(group_).value_or(codePage_);
+        codePages_.decode(bytes_, codePage, decoded_);
+        bytes_.clear();
+        contents_.receive(decoded_, group_);
     }
 
     // ---- Groups ----
@@ -119,79 +132,19 @@ private:
 
     void closeGroup() {
         flush();
-        standInsLeft_ = 0;
         const RtfGroup closed = std::exchange(group_, std::move(groups_.back()));
         groups_.pop_back();
-        if (closed.startsDestination) endDestination(closed);
+        if (closed.startsDestination) contents_.end(closed, group_);
+        // Behind the name of a picture a character stands in for it.
+        const bool hasStandIn = closed.startsDestination && closed.destination == PictureFile;
+        standInsLeft_ = hasStandIn ? 1 : 0;
     }
 
     void startDestination(RtfDestination destination, std::string_view name) {
-        if (group_.destination == Alternatives && name != "ud") return;
         const bool isProperty = destination == PropertyName || destination == PropertyValue;
         if (isProperty && group_.destination != PictureProperties) return;
-        group_.destination = destination;
-        group_.startsDestination = true;
-        switch (destination) {
-            case Field:
-                fields_.emplace_back();
-                group_.field = static_cast<std::uint32_t>(fields_.size());
-                return;
-            case FieldResult:
-                return followLink();
-            case ListMarker:
-                marker_.clear();
-                return;
-            case Picture:
-            case PictureFile:
-                return pictures_.start();
-            case PropertyName:
-                return pictures_.startProperty();
-            case PropertyValue:
-                return pictures_.startValue();
-            default:
-                return;
-        }
-    }
-
-    void endDestination(const RtfGroup& closed) {
-        switch (closed.destination) {
-            case ListMarker:
-                return endMarker();
-            case Picture:
-                return showPicture(pictures_.finishEmbedded());
-            case PictureFile:
-                showPicture(pictures_.finishFile());
-                standInsLeft_ = 1;  // which follows, as the reader's own character
-                return;
-            case PropertyValue:
-                return pictures_.endProperty();
-            default:
-                return;
-        }
-    }
-
-    void endMarker() {
-        const StringView marker = trimmedOfWhitespace(marker_);
-        if (marker.empty() || !isText(group_.destination)) return;
-        const bool isSymbol = definitions_.fonts.codePageOf(markerLook_.font) == kSymbolCodePage;
-        builder_.setMarker(marker, isSymbol ? group_.character : markerLook_);
-        openParagraph_ = group_.paragraph;
-    }
-
-    void showPicture(const TextAttachment& picture) {
-        if (!isText(group_.destination) || group_.character.isHidden) return;
-        if (picture.image == nullptr) return receive(picture.alternativeText);
-        builder_.append(picture, group_.character);
-        openParagraph_ = group_.paragraph;
-    }
-
-    /// The result of a field is a link when its instruction says so.
-    void followLink() {
-        if (group_.field == 0) return;
-        const Value link = linkOfInstruction(fields_[group_.field - 1]);
-        if (link.isAbsent()) return;
-        definitions_.links.push_back(link);
-        group_.character.link = static_cast<std::uint32_t>(definitions_.links.size());
+        if (group_.destination == Alternatives && name != "ud") return;
+        contents_.start(destination, group_);
     }
 
     // ---- Control words ----
@@ -208,7 +161,7 @@ private:
         if (destination != nullptr) return startDestination(*destination, token.text);
         if (isIgnorable) {
             group_.destination = Skipped;
-        } else if (!takeTableWord(token.text, number) && known != nullptr) {
+        } else if (!contents_.takeWord(token.text, number, group_) && known != nullptr) {
             takeKnownWord(*known, number);
         }
     }
@@ -217,7 +170,7 @@ private:
         flush();
         if (group_.destination == Skipped) return;
         const auto unit = static_cast<char16_t>(number.value);
-        receive({&unit, 1});
+        contents_.receive({&unit, 1}, group_);
         standInsLeft_ = static_cast<std::size_t>(group_.standIns);
     }
 
@@ -233,7 +186,7 @@ private:
         } else if (name == "ansicpg") {
             if (number.value > 0) codePage_ = number.value;
         } else if (name == "mac") {
-            codePage_ = 10000;
+            codePage_ = kOldRomanCodePage;
         } else if (name == "pc") {
             codePage_ = 437;
         } else if (name == "pca") {
@@ -249,30 +202,6 @@ private:
         group_.character = {};
         group_.character.link = link;
         group_.character.font = defaultFont_;
-    }
-
-    /// Words within the tables, where they do not change what follows.
-    [[nodiscard]] bool takeTableWord(std::string_view name, RtfNumber number) {
-        switch (group_.destination) {
-            case FontTable:
-                definitions_.fonts.word(name, number);
-                return true;
-            case ColorTable:
-                definitions_.colors.word(name, number);
-                return true;
-            case ListTable:
-                definitions_.lists.word(name, number);
-                return true;
-            case ListOverrideTable:
-                definitions_.lists.overrideWord(name, number);
-                return true;
-            case Picture:
-            case PictureFile:
-                pictures_.word(name, number);
-                return true;
-            default:
-                return false;
-        }
     }
 
     void takeKnownWord(const RtfWord& word, RtfNumber number) {
@@ -293,84 +222,16 @@ private:
         change(*group_.paragraph, number);
     }
 
-    void takeCharacter(char16_t character) {
-        if (character != u'\n') return receive({&character, 1});
-        if (isText(group_.destination)) builder_.endParagraph(*group_.paragraph, group_.character);
-    }
-
-    // ---- Text ----
-
-    [[nodiscard]] static bool isText(RtfDestination destination) {
-        return destination == Body || destination == FieldResult;
-    }
-
-    [[nodiscard]] std::int32_t codePage() const {
-        const bool isTable =
-            group_.destination == FontTable || group_.destination == AlternativeFontName;
-        const RtfFonts& fonts = definitions_.fonts;
-        return (isTable ? fonts.codePageOfTable() : fonts.codePageOf(group_.character.font))
-            .value_or(codePage_);
-    }
-
-    /// Decodes the bytes that have come.
-    void flush() {
-        if (bytes_.empty()) return;
-        decoded_.clear();
-        codePages_.decode(bytes_, codePage(), decoded_);
-        bytes_.clear();
-        receive(decoded_);
-    }
-
-    /// Brings text to where it belongs.
-    void receive(StringView text) {
-        switch (group_.destination) {
-            case Body:
-            case FieldResult:
-                if (!group_.character.isHidden) builder_.append(text, group_.character);
-                openParagraph_ = group_.paragraph;
-                return;
-            case ListMarker:
-                if (marker_.empty()) markerLook_ = group_.character;
-                marker_ += text;
-                return;
-            case FieldInstruction:
-                if (group_.field != 0) fields_[group_.field - 1] += text;
-                return;
-            case FontTable:
-                return definitions_.fonts.name(text);
-            case AlternativeFontName:
-                return definitions_.fonts.alternativeName(text);
-            case ColorTable:
-                return definitions_.colors.text(text);
-            case Picture:
-                return pictures_.hexadecimal(text);
-            case PictureFile:
-                return pictures_.fileName(text);
-            case PropertyName:
-                return pictures_.propertyName(text);
-            case PropertyValue:
-                return pictures_.propertyValue(text);
-            default:
-                return;
-        }
-    }
-
     RtfTokenizer tokens_;
-    RtfDefinitions definitions_;
-    RtfTextBuilder builder_{definitions_};
-    RtfPictureReader pictures_;
+    RtfGroup group_{.paragraph = std::make_shared<RtfParagraph>()};
+    std::vector<RtfGroup> groups_;  // around the open one
+    RtfContents contents_;
     RtfCodePages codePages_;
     std::int32_t codePage_ = kWesternCodePage;
     std::int32_t defaultFont_ = -1;
-    RtfGroup group_{.paragraph = std::make_shared<RtfParagraph>()};
-    std::vector<RtfGroup> groups_;                                    // around the open one
-    std::shared_ptr<RtfParagraph> openParagraph_ = group_.paragraph;  // of the last text or marker
-    std::string bytes_;                                               // not decoded yet
+    std::string bytes_;  // not decoded yet
     String decoded_;
     std::size_t standInsLeft_ = 0;
-    std::vector<String> fields_;  // their instructions
-    String marker_;
-    RtfCharacter markerLook_;
 };
 
 }  // namespace

@@ -26,6 +26,15 @@ bool isBullet(StringView marker) {
     return marker == StringView(&kFilledBullet, 1) || marker == StringView(&kOpenBullet, 1);
 }
 
+/// What a marker of an unknown list is: a bullet when it is one character that
+/// counts nothing.
+RtfNumbering numberingOfMarker(StringView marker) {
+    const char16_t unit = marker.front();
+    const char16_t lower = unit | 0x20;
+    const bool counts = (unit >= u'0' && unit <= u'9') || (lower >= u'a' && lower <= u'z');
+    return marker.size() == 1 && !counts ? RtfNumbering::Bullet : RtfNumbering::Decimal;
+}
+
 /// The marker of an item at `level` that is written as `marker`.
 String markerAt(std::int32_t level, RtfNumbering numbering, String marker) {
     if (numbering != RtfNumbering::Bullet || isBullet(marker)) return marker;
@@ -155,8 +164,8 @@ void RtfTextBuilder::insertMarker(const RtfParagraph& paragraph) {
     const auto& levels = definitions_.lists.levelsOf(paragraph.list);
     const auto level = static_cast<std::size_t>(paragraph.level);
     const bool isKnown = level < levels.size();
-    const auto numbering =
-        isKnown ? static_cast<RtfNumbering>(levels[level].numbering) : RtfNumbering::Decimal;
+    const auto numbering = isKnown ? static_cast<RtfNumbering>(levels[level].numbering)
+                                   : numberingOfMarker(marker_.text);
     const String units = u"\t" + markerAt(paragraph.level, numbering, marker_.text) + u"\t";
     const std::size_t start = text_.runs.empty() ? 0 : text_.runs.back().end;
     text_.text.insert(start, units);

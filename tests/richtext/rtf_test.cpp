@@ -137,7 +137,7 @@ TEST_CASE("text of any origin is read") {
         {"a picture that is none", "{\\pict\\pngblip 00ff}a", u"a"},
         {"its alternative text", "{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv b}}}00}",
          u"b"},
-        {"an old list", "{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt}a", u"\t\u00B7\ta"},
+        {"an old list", "{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt}a", u"\t\u25CF\ta"},
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
