@@ -69,7 +69,6 @@ void writeBaseline(const TextAttributes& attributes, RtfOutput& out) {
 
 std::string rtfCharacterCodes(const TextAttributes& attributes, RtfTables& tables) {
     RtfOutput out;
-    out.word("plain");
     if (attributes.font() != nullptr) writeFont(*attributes.font(), tables, out);
     writeColors(attributes, tables, out);
     writeUnderline(attributes, tables, out);

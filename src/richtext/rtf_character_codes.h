@@ -8,8 +8,8 @@
 
 namespace QZCore {
 
-/// The control words that set all of the look of text with `attributes`. Links
-/// and attachments are no part of it.
+/// The control words for the look of text with `attributes`, where nothing is
+/// said of it yet. Links and attachments are no part of it.
 [[nodiscard]] std::string rtfCharacterCodes(const TextAttributes& attributes, RtfTables& tables);
 
 }  // namespace QZCore

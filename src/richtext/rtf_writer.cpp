@@ -34,6 +34,7 @@ public:
 
     [[nodiscard]] std::string write() {
         while (at_ < text_.text.size()) writeParagraph();
+        closeRun();
         RtfOutput document;
         document.mark("{\\rtf1\\ansi\\ansicpg1252\\uc1\n");
         tables_.fonts.write(document);
@@ -133,15 +134,17 @@ private:
         const TextAttributes& look = attributes();
         const Value* link = look.link();
         if (link != nullptr) openField(*link);
-        writeCharacterCodes(link != nullptr);
+        openRun(codesOf(id()));
         writeText(look, end);
         if (withParagraphEnd) body_.paragraphEnd();
         endIsWritten_ = withParagraphEnd;
+        if (link != nullptr || withParagraphEnd) closeRun();
         if (link != nullptr) body_.mark("}}");
         advanceTo(end);
     }
 
     void openField(const Value& link) {
+        closeRun();
         body_.openGroup();
         body_.word("field");
         body_.openIgnorableGroup("fldinst");
@@ -150,13 +153,20 @@ private:
         body_.word("fldrslt");
     }
 
-    /// Text looks like that before unless something else is said. What is said
-    /// in a group of its own holds there only.
-    void writeCharacterCodes(bool isInOwnGroup) {
-        const std::string& codes = codesOf(id());
-        if (codes == characters_) return;
+    /// Each look stands in a group of its own, which is what all readers
+    /// understand. Neighbours that look the same share it.
+    void openRun(std::string_view codes) {
+        if (codes == runCodes_) return;
+        closeRun();
+        if (codes.empty()) return;
+        body_.openGroup();
         body_.words(codes);
-        if (!isInOwnGroup) characters_ = codes;
+        runCodes_ = codes;
+    }
+
+    void closeRun() {
+        if (!runCodes_.empty()) body_.closeGroup();
+        runCodes_ = {};
     }
 
     void writeText(const TextAttributes& look, std::size_t end) {
@@ -193,8 +203,8 @@ private:
     RtfOutput body_;
     std::vector<std::string> codes_;  // by the numbers of attributes
     std::map<Look, std::string> looks_;
-    std::string_view look_;        // of the paragraph before
-    std::string_view characters_;  // of the text before
+    std::string_view look_;      // of the paragraph before
+    std::string_view runCodes_;  // of the open run
     bool endIsWritten_ = false;
     std::size_t at_ = 0;
     std::size_t run_ = 0;

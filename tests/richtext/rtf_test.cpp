@@ -96,10 +96,10 @@ TEST_CASE("a document is written byte for byte like this") {
         "\\leveljcn2\\levelfollow0\\levelstartat1{\\leveltext\\'01\\u9679?;}{\\levelnumbers;}"
         "\\fi-100\\li400}{\\listname ;}\\listid1}\n}{\\*\\listoverridetable"
         "{\\listoverride\\listid1\\listoverridecount0\\ls1}}\n"
-        "\\pard\\li400\\fi-100\\ls1\\ilvl0{\\listtext\\plain\\f0\\fs24\\b\\u9679?\\tab}"
-        "\\plain\\f0\\fs24\\b One\\par\n"
-        "\\pard{\\field{\\*\\fldinst HYPERLINK \"#a\"}{\\fldrslt\\plain\\cf1\\u233\\'e9\\u20013?}}"
-        "\\plain{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv alt}}}\\pngblip"
+        "\\pard\\li400\\fi-100\\ls1\\ilvl0{\\listtext\\f0\\fs24\\b\\u9679?\\tab}"
+        "{\\f0\\fs24\\b One\\par\n}"
+        "\\pard{\\field{\\*\\fldinst HYPERLINK \"#a\"}{\\fldrslt{\\cf1\\u233\\'e9\\u20013?}}}"
+        "{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv alt}}}\\pngblip"
         "\\picwgoal320\\pichgoal160\n504e473a}}");
 }
 
@@ -202,7 +202,7 @@ TEST_CASE("what is no document gives nothing, and hostile ones end soon") {
     CHECK_FALSE(richTextFromRTFD(bytesOf("{\\rtf1 a}")).has_value());
     CHECK(read("{\\rtf1 a")->string() == u"a");
     CHECK(read("{\\rtf1 a}b}")->string() == u"a");
-    constexpr std::size_t kMany = 200'000;
+    constexpr std::size_t kMany = 100'000;
     const auto start = std::chrono::steady_clock::now();
     testing::onSmallStack([&] {
         CHECK_FALSE(read("{\\rtf1" + repeated("{", kMany)).has_value());
