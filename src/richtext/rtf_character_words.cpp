@@ -29,7 +29,7 @@ constexpr RtfWordRow row(std::string_view name, RtfCharacterChange change) {
     return {name, change};
 }
 
-const RtfWordRow kWords[] = {
+constexpr RtfWordRow kWords[] = {
     row("b", [](C& c, N n) { c.isBold = n.isOn(); }),
     row("i", [](C& c, N n) { c.isItalic = n.isOn(); }),
     row("f", [](C& c, N n) { c.font = std::max(n.value, -1); }),

@@ -5,7 +5,7 @@ namespace {
 
 using enum RtfDestination;
 
-const RtfWordRow kWords[] = {
+constexpr RtfWordRow kWords[] = {
     // Characters.
     {"par", u'\n'},
     {"sect", u'\n'},

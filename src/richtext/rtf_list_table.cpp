@@ -7,27 +7,20 @@ namespace {
 
 constexpr std::int64_t kLargestNumber = 999'999'999;
 
-/// A byte of text by its value.
-void writeByte(std::size_t value, RtfOutput& out) {
-    constexpr char kDigits[] = "0123456789abcdef";
-    const char byte[] = {'\\', '\'', kDigits[value >> 4 & 15], kDigits[value & 15]};
-    out.mark({byte, sizeof byte});
-}
-
 /// A marker: its length, and its units or the place of the number.
 void writeMarker(RtfNumbering numbering, char16_t bullet, std::size_t level, RtfOutput& out) {
     out.openGroup();
     out.word("leveltext");
     if (numbering == RtfNumbering::Bullet) {
-        writeByte(1, out);
+        out.byte(1);
         out.text({&bullet, 1});
         out.mark(";}{\\levelnumbers;}");
         return;
     }
-    writeByte(2, out);
-    writeByte(level, out);
+    out.byte(2);
+    out.byte(static_cast<std::uint8_t>(level));
     out.mark(".;}{\\levelnumbers");
-    writeByte(1, out);
+    out.byte(1);
     out.mark(";}");
 }
 

@@ -9,8 +9,6 @@
 namespace QZCore {
 namespace {
 
-constexpr char kHexDigits[] = "0123456789abcdef";
-
 bool isPlain(char16_t unit) {
     return unit >= 0x20 && unit < 0x7F && unit != u'\\' && unit != u'{' && unit != u'}';
 }
@@ -94,9 +92,13 @@ void RtfOutput::escape(char16_t unit) {
     }
     word("u", static_cast<std::int16_t>(unit));
     const bool isInCodePage = unit >= 0xA0 && unit <= 0xFF;
-    if (!isInCodePage) return mark("?");
-    const char byte[] = {'\\', '\'', kHexDigits[unit >> 4], kHexDigits[unit & 15]};
-    mark({byte, sizeof byte});
+    isInCodePage ? byte(static_cast<std::uint8_t>(unit)) : mark("?");
+}
+
+void RtfOutput::byte(std::uint8_t value) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    const char bytes[] = {'\\', '\'', kDigits[value >> 4], kDigits[value & 15]};
+    mark({bytes, sizeof bytes});
 }
 
 }  // namespace QZCore

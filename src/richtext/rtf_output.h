@@ -31,6 +31,8 @@ public:
     /// Text, without paragraph ends: what is not ASCII as escapes, with a
     /// stand-in for readers without Unicode.
     void text(StringView units);
+    /// A byte of text by its value.
+    void byte(std::uint8_t value);
     /// The end of a paragraph.
     void paragraphEnd();
     /// Anything else, which starts with no letter, digit, hyphen or blank.

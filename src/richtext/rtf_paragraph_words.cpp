@@ -31,7 +31,7 @@ constexpr RtfWordRow row(std::string_view name, RtfParagraphChange change) {
     return {name, change};
 }
 
-const RtfWordRow kWords[] = {
+constexpr RtfWordRow kWords[] = {
     row("pard", [](P& p, N) { p = {}; }),
     row("ql", align<TextAlignment::Left>),
     row("qr", align<TextAlignment::Right>),
