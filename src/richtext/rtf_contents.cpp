@@ -1,5 +1,7 @@
 #include "richtext/rtf_contents.h"
 
+#include <utility>
+
 #include "richtext/rtf_code_pages.h"
 #include "richtext/rtf_hyperlink.h"
 
@@ -105,7 +107,11 @@ void RtfContents::receiveBinary(std::string_view bytes, const RtfGroup& group) {
 }
 
 void RtfContents::endParagraph(const RtfGroup& group) {
-    if (isRtfText(group.destination)) builder_.endParagraph(*group.paragraph, group.character);
+    const bool isMarker = group.destination == ListMarker;
+    if (!isMarker && !isRtfText(group.destination)) return;
+    // Some programs write whole items where only their markers belong.
+    if (isMarker) builder_.append(std::exchange(marker_, {}), markerLook_);
+    builder_.endParagraph(*group.paragraph, group.character);
 }
 
 std::optional<std::int32_t> RtfContents::codePageIn(const RtfGroup& group) const {

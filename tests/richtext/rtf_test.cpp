@@ -87,20 +87,19 @@ TEST_CASE("a document is written byte for byte like this") {
     const TextAttachment image{LabelledImages::image("PNG:"), 16, 8, u"alt", u""};
     text.appendAttributedString(
         RichText({&kAttachmentCharacter, 1}, {{NSAttachmentAttributeName, Value::boxed(image)}}));
-    CHECK(
-        textOf(text.RTF()) ==
-        "{\\rtf1\\ansi\\ansicpg1252\\uc1\n"
-        "{\\fonttbl{\\f0\\fnil\\fcharset0 Sans{\\*\\falt Sans-Bold};}}\n"
-        "{\\colortbl;\\red255\\green128\\blue128;}\n"
-        "{\\*\\listtable{\\list\\listtemplateid1{\\listlevel\\levelnfc23\\levelnfcn23\\leveljc2"
-        "\\leveljcn2\\levelfollow0\\levelstartat1{\\leveltext\\'01\\u9679?;}{\\levelnumbers;}"
-        "\\fi-100\\li400}{\\listname ;}\\listid1}\n}{\\*\\listoverridetable"
-        "{\\listoverride\\listid1\\listoverridecount0\\ls1}}\n"
-        "\\pard\\li400\\fi-100\\ls1\\ilvl0{\\listtext\\f0\\fs24\\b\\u9679?\\tab}"
-        "{\\f0\\fs24\\b One\\par\n}"
-        "\\pard{\\field{\\*\\fldinst HYPERLINK \"#a\"}{\\fldrslt{\\cf1\\u233\\'e9\\u20013?}}}"
-        "{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv alt}}}\\pngblip"
-        "\\picwgoal320\\pichgoal160\n504e473a}}");
+    CHECK(textOf(text.RTF()) ==
+          "{\\rtf1\\ansi\\ansicpg1252\\uc1\n"
+          "{\\fonttbl{\\f0\\fnil\\fcharset0 Sans{\\*\\falt Sans-Bold};}}\n"
+          "{\\colortbl;\\red255\\green128\\blue128;}\n"
+          "{\\*\\listtable{\\list\\listtemplateid1{\\listlevel\\levelnfc23\\levelnfcn23\\leveljc2"
+          "\\leveljcn2\\levelfollow0\\levelstartat1{\\leveltext\\'01\\u9679?;}{\\levelnumbers;}"
+          "\\fi-100\\li400}{\\listname ;}\\listid1}\n}{\\*\\listoverridetable"
+          "{\\listoverride\\listid1\\listoverridecount0\\ls1}}\n"
+          "\\pard\\li400\\fi-100\\ls1\\ilvl0{\\listtext\\f0\\fs24\\b\\u9679?\\tab}"
+          "{\\f0\\fs24\\b One\\par\n}"
+          "\\pard{\\field{\\*\\fldinst HYPERLINK \"#a\"}{\\fldrslt{\\cf1\\u233\\'e9\\u20013?}}}"
+          "{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv alt}}}\\pngblip"
+          "\\picwgoal320\\pichgoal160\n504e473a}}");
 }
 
 TEST_CASE("text of any origin is read") {
@@ -137,6 +136,7 @@ TEST_CASE("text of any origin is read") {
         {"a picture that is none", "{\\pict\\pngblip 00ff}a", u"a"},
         {"its alternative text", "{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv b}}}00}",
          u"b"},
+        {"no marker but an item", "{\\listtext\\tab a{\\par}}b", u"\ta\nb"},
         {"an old list", "{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt}a", u"\t\u25CF\ta"},
     };
     for (const Row& row : rows) {
