@@ -202,7 +202,10 @@ TEST_CASE("differences take as much of each unit as does not lead too far") {
         };
         const Date from = date();
         const Date to = date();
-        const auto& [unit, field] = units[random() % std::size(units)];
+        // No structured binding: a lambda may not capture one.
+        const auto& chosen = units[random() % std::size(units)];
+        const std::uint32_t unit = chosen.first;
+        const auto field = chosen.second;
         const std::int64_t amount = calendar.components(unit, from, to).*field;
         const auto sum = [&](std::int64_t more) {
             DateComponents amounts;
