@@ -15,8 +15,10 @@ install(FILES ${PROJECT_BINARY_DIR}/QZCoreConfig.cmake ${PROJECT_BINARY_DIR}/QZC
 # Callers of the shared library never see the libraries below it; callers of
 # the static one have to link them.
 set(QZCORE_PC_REQUIRES "Requires.private")
+set(QZCORE_PC_LIBS "")
 if(NOT BUILD_SHARED_LIBS)
   set(QZCORE_PC_REQUIRES "Requires")
+  set(QZCORE_PC_LIBS "-lbz2")  # which has no pkg-config file
 endif()
 list(JOIN QZCORE_MODULES " " QZCORE_PC_MODULES)
 cmake_path(APPEND CMAKE_INSTALL_PREFIX ${CMAKE_INSTALL_LIBDIR} pkgconfig OUTPUT_VARIABLE pc_dir)

@@ -1,6 +1,8 @@
 # The one library target and its back ends.
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
+find_package(OpenSSL 3.0 REQUIRED COMPONENTS Crypto)
+find_package(BZip2 REQUIRED)
 
 set(QZCORE_MODULES icu-i18n icu-uc expat 2geom)
 set(QZCORE_BACK_ENDS "")
@@ -31,7 +33,7 @@ target_include_directories(QZCore PRIVATE ${PROJECT_SOURCE_DIR}/src)
 target_compile_features(QZCore PUBLIC cxx_std_20)
 target_compile_definitions(QZCore PRIVATE ${QZCORE_BACK_ENDS} QZCORE_VERSION="${PROJECT_VERSION}")
 target_link_libraries(QZCore PRIVATE
-  PkgConfig::QZCORE_PLATFORM Threads::Threads
+  PkgConfig::QZCORE_PLATFORM OpenSSL::Crypto BZip2::BZip2 Threads::Threads
   $<BUILD_INTERFACE:qzcore_build_rules> $<BUILD_INTERFACE:qzcore_warnings>)
 # Before 1.0 every minor version may break callers, so it is part of the SONAME.
 set_target_properties(QZCore PROPERTIES

@@ -11,14 +11,21 @@ set(QZCORE_PUBLIC_HEADERS
   bezier/svg_path_data.h
   color.h
   color/color.h
+  color/gradient.h
+  color/material_colors.h
   color/named_colors.h
   color/stored_colors.h
   codecs.h
   codecs/arrays.h
+  codecs/binary_text.h
+  codecs/bzip2.h
   codecs/character_set.h
+  codecs/checksums.h
   codecs/comparing.h
   codecs/deep_copies.h
   codecs/dictionaries.h
+  codecs/digests.h
+  codecs/envelopes.h
   codecs/file_names.h
   codecs/formatting.h
   codecs/parsing.h

@@ -10,10 +10,15 @@
 #pragma once
 
 #include "QZCore/codecs/arrays.h"
+#include "QZCore/codecs/binary_text.h"
+#include "QZCore/codecs/bzip2.h"
 #include "QZCore/codecs/character_set.h"
+#include "QZCore/codecs/checksums.h"
 #include "QZCore/codecs/comparing.h"
 #include "QZCore/codecs/deep_copies.h"
 #include "QZCore/codecs/dictionaries.h"
+#include "QZCore/codecs/digests.h"
+#include "QZCore/codecs/envelopes.h"
 #include "QZCore/codecs/file_names.h"
 #include "QZCore/codecs/formatting.h"
 #include "QZCore/codecs/parsing.h"

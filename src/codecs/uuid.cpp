@@ -47,12 +47,7 @@ bool isUndashedUUID(StringView text) {
 
 std::optional<String> encodeUUIDAsURLSafeBase64(StringView text) {
     if (!isUUID(text)) return std::nullopt;
-    std::string base64;
-    appendBase64(base64, bytesOfUUID(text));
-    std::ranges::replace(base64, '/', '_');
-    std::ranges::replace(base64, '+', '-');
-    std::erase(base64, '=');
-    return String(base64.begin(), base64.end());
+    return urlSafeBase64Of(bytesOfUUID(text));
 }
 
 std::optional<String> decodeURLSafeBase64UUID(StringView text) {

@@ -1,4 +1,5 @@
-// Base64 with the standard alphabet (RFC 4648, section 4).
+// Base64 with the standard alphabet, and with the one for URLs and file names
+// (RFC 4648, sections 4 and 5).
 #pragma once
 
 #include <optional>
@@ -11,6 +12,10 @@ namespace QZCore {
 
 /// Appends `bytes` in base64 to `text`, with padding and without line breaks.
 void appendBase64(std::string& text, DataView bytes);
+
+/// `bytes` in base64 with "-" and "_" in place of "+" and "/", and without
+/// padding.
+[[nodiscard]] String urlSafeBase64Of(DataView bytes);
 
 /// The bytes that `text` stands for. White space (blank, tab, line ends)
 /// between the symbols is skipped; bits of the last symbol that no byte uses

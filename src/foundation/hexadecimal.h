@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "QZCore/foundation/data.h"
 #include "QZCore/foundation/text.h"
 
 namespace QZCore {
@@ -31,6 +32,18 @@ inline void appendHexByte(String& text, std::uint8_t byte) {
     constexpr StringView kDigits = u"0123456789ABCDEF";
     text.push_back(kDigits[byte >> 4]);
     text.push_back(kDigits[byte & 15U]);
+}
+
+/// `bytes` as two lower-case digits each.
+[[nodiscard]] inline String lowerHex(DataView bytes) {
+    constexpr StringView kDigits = u"0123456789abcdef";
+    String text;
+    text.reserve(2 * bytes.size());
+    for (const std::uint8_t byte : bytes) {
+        text.push_back(kDigits[byte >> 4]);
+        text.push_back(kDigits[byte & 15U]);
+    }
+    return text;
 }
 
 }  // namespace QZCore

@@ -13,6 +13,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "QZCore/export.h"
@@ -21,6 +22,7 @@
 
 namespace QZCore {
 
+class MaterialColors;
 class NamedColors;
 class NamedColorsReversed;
 
@@ -95,6 +97,37 @@ public:
     [[nodiscard]] static const NamedColors& sharedNamedColors();
     /// The names of the fixed colours.
     [[nodiscard]] static const NamedColorsReversed& sharedNamedColorsReversed();
+
+    // ---- The material palette ----
+
+    /// The colours of the Material Design palette by shade.
+    [[nodiscard]] static const MaterialColors& sharedMaterialColors();
+    /// The colours of the shade `darkness`, "50" to "900" or "a100" to "a700" in
+    /// exactly this spelling; valid for ever.
+    [[nodiscard]] static std::optional<std::span<const Color>> colorPaletteWithMaterialDarkness(
+        StringView darkness);
+
+    /// A colour of a shade among `darknesses`, all of which have the same chance,
+    /// as all colours of a shade have; of any shade when there is no list. No
+    /// colour when the list is empty, or the shade that was drawn is none.
+    [[nodiscard]] static std::optional<Color> randomMaterialColorAmongDarknesses(
+        const std::optional<std::vector<String>>& darknesses);
+    /// A colour of any shade.
+    [[nodiscard]] static Color randomMaterialColor();
+
+    // ---- Derived colours ----
+
+    /// Whether a label on this fill is easier to read in black than in white:
+    /// on light fills, and on those with an alpha below 0.2.
+    [[nodiscard]] bool shouldUseBlackForLabel() const;
+    /// Black or white, whichever is easier to read on this fill.
+    [[nodiscard]] Color appropriateLabelColor() const;
+
+    /// A calibrated colour of the same hue and alpha, the stronger and darker
+    /// the further `factor` is above 1, the paler and lighter the further it is
+    /// below. Factors outside 0 to 2 count as the nearer end. The colour itself
+    /// for 1, and for what is not a number.
+    [[nodiscard]] Color emboldenedColorByPercentage(float factor) const;
 
     // ---- Asking ----
 
