@@ -97,6 +97,32 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
         {"qznote path --trim 1 2x", 2, "qznote: --trim needs two lengths" + seeHelp},
         {"qznote path --to html", 2, "qznote: unknown format html" + seeHelp},
         {"qznote path --style a", 2, "qznote: unknown option --style" + seeHelp},
+        {"printf 123456789 | qznote digest", 0,
+         "bytes: 9\nlookup2: 4bf83526\ncrc32: cbf43926\n"
+         "sha1: f7c3bc1d808e04732adf679965ccc34ca7ae3441\n"
+         "sha256: 15e2b0d3c33891ebb0f1ef609ec419420c20e320ce94c65fbc8c3312448eb225\n"},
+        {"printf a > a; printf pw > pw; qznote seal a -o s --password-fd 3 3< pw && wc -c < s && "
+         "qznote open s --password-fd 3 3< pw",
+         0, "82\na"},
+        {"printf 'pw\\nb' | qznote seal --password-fd 0 | qznote open --password-fd=3 3< pw", 0,
+         "b"},
+        {"echo other | qznote open s --password-fd 0", 1,
+         "qznote: wrong password, or s is no sealed file or was changed\n"},
+        {"qznote open s --password-fd 9", 1, "qznote: cannot read a password\n"},
+        {"echo | qznote seal a --password-fd 0", 1, "qznote: cannot read a password\n"},
+        {"printf '\\377' | qznote seal a --password-fd 0", 1, "qznote: cannot read a password\n"},
+        {"qznote open no-such-file --password-fd 3 3< pw", 1, "qznote: cannot read no-such-file\n"},
+        {"qznote palette --shade a700 | cut -c1-21", 0, "a700  #d50000 #c51162\n"},
+        {"qznote palette --shade 50 --to ansi | cut -d' ' -f4-5", 0,
+         "\x1b[48;2;255;235;238;38;2;0;0;0m #ffebee\n"},
+        {"qznote palette -o p.html; grep -c '^<tr>' p.html; grep -o '[^>]*#795548<' p.html", 0,
+         "14\n#795548<\n"},
+        {"qznote palette --shade A50", 1, "qznote: there is no shade A50\n"},
+        {"qznote palette --to runs", 2, "qznote: unknown format runs" + seeHelp},
+        {"qznote palette a", 2, "qznote: palette takes no file" + seeHelp},
+        {"qznote render --password-fd 0", 2, "qznote: unknown option --password-fd" + seeHelp},
+        {"qznote seal --password-fd x", 2,
+         "qznote: --password-fd needs the number of a descriptor" + seeHelp},
         {"qznote --version", 0, "qznote " QZNOTE_VERSION "\n"},
     };
     for (const Row& row : rows) {

@@ -1,6 +1,7 @@
 #include "command_line.h"
 
 #include <algorithm>
+#include <charconv>
 #include <string_view>
 #include <vector>
 
@@ -17,10 +18,10 @@ struct ActionName {
 };
 
 constexpr ActionName kActions[] = {
-    {"render", Command::Action::Render},
-    {"detect", Command::Action::Detect},
-    {"outline", Command::Action::Outline},
-    {"path", Command::Action::MeasurePath},
+    {"render", Command::Action::Render},   {"detect", Command::Action::Detect},
+    {"outline", Command::Action::Outline}, {"path", Command::Action::MeasurePath},
+    {"digest", Command::Action::Digest},   {"seal", Command::Action::Seal},
+    {"open", Command::Action::Open},       {"palette", Command::Action::Palette},
 };
 
 struct FormatName {
@@ -38,6 +39,9 @@ constexpr FormatName kFormats[] = {
     {Command::Action::MeasurePath, "report", OutputFormat::Report},
     {Command::Action::MeasurePath, "data", OutputFormat::PathData},
     {Command::Action::MeasurePath, "svg", OutputFormat::Svg},
+    {Command::Action::Palette, "html", OutputFormat::Html},
+    {Command::Action::Palette, "ansi", OutputFormat::Ansi},
+    {Command::Action::Palette, "text", OutputFormat::Text},
 };
 
 struct Option {
@@ -47,11 +51,22 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {Command::Action::Render, "--to", 1},          {Command::Action::Render, "-o", 1},
-    {Command::Action::Render, "--style", 1},       {Command::Action::Render, "--images", 0},
-    {Command::Action::MeasurePath, "--to", 1},     {Command::Action::MeasurePath, "-o", 1},
-    {Command::Action::MeasurePath, "--trim", 2},   {Command::Action::MeasurePath, "--fit", 1},
+    {Command::Action::Render, "--to", 1},
+    {Command::Action::Render, "-o", 1},
+    {Command::Action::Render, "--style", 1},
+    {Command::Action::Render, "--images", 0},
+    {Command::Action::MeasurePath, "--to", 1},
+    {Command::Action::MeasurePath, "-o", 1},
+    {Command::Action::MeasurePath, "--trim", 2},
+    {Command::Action::MeasurePath, "--fit", 1},
     {Command::Action::MeasurePath, "--smooth", 0},
+    {Command::Action::Palette, "--to", 1},
+    {Command::Action::Palette, "-o", 1},
+    {Command::Action::Palette, "--shade", 1},
+    {Command::Action::Seal, "-o", 1},
+    {Command::Action::Seal, "--password-fd", 1},
+    {Command::Action::Open, "-o", 1},
+    {Command::Action::Open, "--password-fd", 1},
 };
 
 /// What is said of an option with too few or too many values, by their right number.
@@ -63,6 +78,15 @@ std::optional<float> numberOf(std::string_view text) {
     const ReadNumber number = readDouble(units);
     if (units.empty() || number.length != units.size()) return std::nullopt;
     return static_cast<float>(number.value);
+}
+
+/// The number of a file descriptor.
+std::optional<int> descriptorOf(std::string_view digits) {
+    int number = -1;
+    const char* end = digits.data() + digits.size();
+    const auto [at, error] = std::from_chars(digits.data(), end, number);
+    if (error != std::errc() || at != end || number < 0) return std::nullopt;
+    return number;
 }
 
 /// Reads the arguments from left to right.
@@ -118,6 +142,7 @@ private:
     }
 
     void readInput(std::string_view name) {
+        if (command_.action == Command::Action::Palette) fault_ = "palette takes no file";
         if (hasInput_) fault_ = "more than one file given";
         hasInput_ = true;
         command_.input = name;
@@ -152,6 +177,13 @@ private:
         if (name == "--trim") setPart(values[0], values[1]);
         if (name == "--fit") setFit(values[0]);
         if (name == "--smooth") command_.smooths = true;
+        if (name == "--shade") command_.shade = values[0];
+        if (name == "--password-fd") setDescriptor(values[0]);
+    }
+
+    void setDescriptor(std::string_view value) {
+        command_.passwordDescriptor = descriptorOf(value);
+        if (!command_.passwordDescriptor) fault_ = "--password-fd needs the number of a descriptor";
     }
 
     void setFit(std::string_view distance) {
@@ -198,6 +230,10 @@ std::string helpText() {
   qznote outline [NOTE.md]
   qznote path [DATA.txt] [--fit DISTANCE] [--smooth] [--trim FROM TO]
               [--to FORMAT] [-o FILE]
+  qznote digest [FILE]
+  qznote seal [FILE] [-o FILE] [--password-fd NUMBER]
+  qznote open [FILE] [-o FILE] [--password-fd NUMBER]
+  qznote palette [--shade SHADE] [--to FORMAT] [-o FILE]
   qznote --help | --version
 
 Notes and path data are UTF-8 text. Without a name, or with "-", the standard
@@ -237,6 +273,20 @@ measures it. Data are read up to the first mistake, which is reported.
                  of it
                  Without it, svg for a FILE that ends in .svg, else report.
   -o FILE        as above
+
+digest prints the checksums and digests of a file of any kind, one a line.
+
+seal encrypts a file of any kind with a password, and open gives it back, if the
+password is the same and nobody has changed a bit:
+  -o FILE               writes to FILE; "-" is the standard output, to which
+                        sealed files are written only if it is no terminal
+  --password-fd NUMBER  reads the password from the file descriptor NUMBER, up to
+                        the end of its first line; without it, the terminal is
+                        asked, and shows nothing of the answer
+
+palette shows the colours of the material palette by shade, "50" to "900" and
+"a100" to "a700": as html, ansi or text, chosen as for render.
+  --shade SHADE  shows this shade only
 
 The exit code is 0, 1 when a file or the output fails, or 2 for a wrong command
 line.

@@ -19,10 +19,21 @@ struct Part {
 
 /// A command with its options.
 struct Command {
-    enum class Action { Render, Detect, Outline, MeasurePath, ShowHelp, ShowVersion };
+    enum class Action {
+        Render,
+        Detect,
+        Outline,
+        MeasurePath,
+        Digest,
+        Seal,
+        Open,
+        Palette,
+        ShowHelp,
+        ShowVersion
+    };
 
     Action action = Action::Render;
-    /// The file with the note or path data; "-" is the standard input.
+    /// The file with the note, the path data, or anything; "-" is the standard input.
     std::string input = "-";
     /// The style sheet; none when empty.
     std::string styleSheet{};
@@ -38,6 +49,11 @@ struct Command {
     bool smooths = false;
     /// What is kept of the path; all of it when absent.
     std::optional<Part> part{};
+    /// The shade of the palette; all when empty.
+    std::string shade{};
+    /// The file descriptor that the password is read from; the terminal is asked
+    /// when there is none.
+    std::optional<int> passwordDescriptor{};
 };
 
 /// Why a command line is none, in words for the user.

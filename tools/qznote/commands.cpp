@@ -7,14 +7,18 @@
 
 #include "QZCore/bezier/curve_fitting.h"
 #include "QZCore/bezier/svg_path_data.h"
+#include "QZCore/codecs/envelopes.h"
 #include "QZCore/foundation/log.h"
 #include "QZCore/platform/url_loading.h"
 #include "ansi_writer.h"
 #include "command_line.h"
 #include "detection_report.h"
+#include "digest_report.h"
 #include "html_writer.h"
 #include "note.h"
 #include "outline_report.h"
+#include "palette_writer.h"
+#include "password.h"
 #include "path_report.h"
 #include "runs_writer.h"
 #include "stand_ins.h"
@@ -141,10 +145,46 @@ int measurePath(const Command& command, const Data& data) {
                    std::to_string(length + 1) + " on");
 }
 
+int palette(const Command& command) {
+    const auto swatches = paletteSwatches(command.shade, formatOf(command));
+    if (!swatches) return failure("there is no shade " + command.shade);
+    return output(command.output, *swatches);
+}
+
+/// The password; asked for twice when a slip of the finger would lock a file.
+std::optional<Password> passwordFor(const Command& command) {
+    if (command.passwordDescriptor) return readPassword(*command.passwordDescriptor);
+    auto password = askForPassword("Password: ");
+    if (!password || command.action == Command::Action::Open) return password;
+    const auto again = askForPassword("Once more: ");
+    if (!again || again->text() != password->text()) return std::nullopt;
+    return password;
+}
+
+int sealOrOpen(const Command& command) {
+    const bool seals = command.action == Command::Action::Seal;
+    if (seals && command.output == kStandardStream && ::isatty(STDOUT_FILENO) == 1)
+        return failure("a terminal cannot show a sealed file; use -o FILE");
+    const auto password = passwordFor(command);
+    if (!password) return failure("cannot read a password");
+    const auto file = readAll(command.input);
+    if (!file) return failure("cannot read " + nameOf(command.input));
+    const auto result = seals ? dataSealedAES256WithPassword(*file, password->text())
+                              : dataDecryptedAES256WithPassword(*file, password->text());
+    if (result) return output(command.output, textOf(*result));
+    return failure(seals ? "cannot seal " + nameOf(command.input)
+                         : "wrong password, or " + nameOf(command.input) +
+                               " is no sealed file or was changed");
+}
+
 int carryOut(const Command& command) {
     if (command.action == Command::Action::ShowHelp) return output("-", helpText());
     if (command.action == Command::Action::ShowVersion) {
         return output("-", "qznote " QZNOTE_VERSION "\n");
+    }
+    if (command.action == Command::Action::Palette) return palette(command);
+    if (command.action == Command::Action::Seal || command.action == Command::Action::Open) {
+        return sealOrOpen(command);
     }
     const auto input = readAll(command.input);
     if (!input) return failure("cannot read " + nameOf(command.input));
@@ -153,6 +193,7 @@ int carryOut(const Command& command) {
     }
     if (command.action == Command::Action::Outline) return outline(*input);
     if (command.action == Command::Action::MeasurePath) return measurePath(command, *input);
+    if (command.action == Command::Action::Digest) return output("-", digestReport(*input));
     return render(command, *input);
 }
 
