@@ -32,6 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto color = Color::colorForString(text);
     require(color.has_value() == !text.empty());
     if (!color) return 0;
+    (void)color->appropriateLabelColor();
+    const float factor = static_cast<float>(text.front()) / 16'384;
+    require(Color::colorForString(color->emboldenedColorByPercentage(factor).stringForColor())
+                .has_value());
     const String once = Color::colorForString(color->stringForColor())->stringForColor();
     require(Color::colorForString(once)->stringForColor() == once);
     return 0;
