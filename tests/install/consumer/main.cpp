@@ -1,5 +1,6 @@
 // A caller that knows nothing but the installed library: it calls into it,
 // is called back by it, and meets its own types again behind a Value.
+#include <QZCore/codecs.h>
 #include <QZCore/foundation.h>
 #include <QZCore/platform.h>
 
@@ -22,7 +23,13 @@ int main() {
     notes.setObject(QZCore::Value(u"tea"), QZCore::Value(u"drink"));
     const QZCore::Value* drink = notes.find(QZCore::StringView(u"drink"));
 
+    // What stands on libraries below, which a static library leaves to be linked.
+    const QZCore::Data bytes{1, 2, 3};
+    const auto sealed = QZCore::dataSealedAES256WithPassword(bytes, u"tea");
+    const auto packed = QZCore::compressBZip2(bytes);
+
     const bool works = sink->line == u"caf\u00E9" && drink != nullptr &&
-                       drink->string() != nullptr && *drink->string() == u"tea";
+                       drink->string() != nullptr && *drink->string() == u"tea" && sealed &&
+                       QZCore::dataWithBZip2Data(packed) == bytes;
     return works ? 0 : 1;
 }
