@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "QZCore/color.h"
+#include "QZCore/color/color.h"
 #include "QZCore/export.h"
 #include "QZCore/foundation/text.h"
 #include "QZCore/richtext/text_lists.h"

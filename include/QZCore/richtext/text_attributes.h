@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-#include "QZCore/color.h"
+#include "QZCore/color/color.h"
 #include "QZCore/export.h"
 #include "QZCore/foundation/text.h"
 #include "QZCore/foundation/value.h"
