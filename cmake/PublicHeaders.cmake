@@ -11,6 +11,7 @@ set(QZCORE_PUBLIC_HEADERS
   bezier/svg_path_data.h
   color.h
   color/color.h
+  color/color_bytes.h
   color/gradient.h
   color/material_colors.h
   color/named_colors.h
@@ -91,10 +92,13 @@ set(QZCORE_PUBLIC_HEADERS
   platform/time_zone.h
   platform/url_loading.h
   richtext.h
+  richtext/blocks.h
   richtext/editing_commands.h
   richtext/editor.h
   richtext/font_attributes.h
   richtext/font_manager.h
+  richtext/html.h
+  richtext/list_items.h
   richtext/paragraph_style.h
   richtext/rich_text.h
   richtext/rtf.h

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "QZCore/color/color.h"
+#include "QZCore/color/color_bytes.h"
 #include "QZCore/color/gradient.h"
 #include "QZCore/color/material_colors.h"
 #include "QZCore/color/named_colors.h"

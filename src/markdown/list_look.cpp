@@ -39,10 +39,6 @@ ParagraphStyle baseStyle(const StyleSheet& styles, const Preferences& preference
     return base;
 }
 
-/// The widest number that a list of so many items needs, by the number of its
-/// tens.
-String widestNumber(std::size_t siblings) { return String(siblings / 10, u'9') + u"9."; }
-
 }  // namespace
 
 ListLook::ListLook(const StyleSheet& styles, const Preferences& preferences,
@@ -51,9 +47,9 @@ ListLook::ListLook(const StyleSheet& styles, const Preferences& preferences,
       font_(prefix.font() == nullptr ? fonts_.userFont(kFontDefaultSize) : *prefix.font()),
       base_(baseStyle(styles, preferences, prefix, font_)),
       alternatesDiscs_(preferences.boolForKey(u"Markdown Inline Lists Alternate Discs", true)),
-      levelsLess_(indentsFirstLevel ? 0 : 1),
-      indention_(lengthForKey(preferences, u"Markdown Inline Lists Indentions", 9)),
-      gap_(lengthForKey(preferences, u"Markdown Inline Lists Marker To Text Gap", 5)) {}
+      indents_{indentsFirstLevel ? 0.0 : 1.0,
+               lengthForKey(preferences, u"Markdown Inline Lists Indentions", 9),
+               lengthForKey(preferences, u"Markdown Inline Lists Marker To Text Gap", 5)} {}
 
 String ListLook::markerOf(const ListItem& item) const {
     if (item.isNumbered()) return integerString(static_cast<std::int64_t>(item.position)) + u".";
@@ -62,20 +58,14 @@ String ListLook::markerOf(const ListItem& item) const {
 }
 
 double ListLook::markerWidthOf(const ListItem& item) const {
-    const String sample = item.isNumbered() ? widestNumber(item.siblings) : markerOf(item);
+    const String sample = item.isNumbered() ? widestItemNumber(item.siblings) : markerOf(item);
     return std::ceil(fonts_.widthOfText(sample, font_));
 }
 
 ParagraphStyle ListLook::styleOf(const ListItem& item, TextLists textLists) const {
-    const double width = markerWidthOf(item);
-    const double level = item.level;
-    const double indent =
-        std::max(width, level * width + (level - levelsLess_) * indention_ + gap_);
     ParagraphStyle style = base_;
     style.textLists = std::move(textLists);
-    style.headIndent = indent;
-    // Markers of different widths end at the same place.
-    style.tabStops = {{TextAlignment::Right, indent - gap_}, {TextAlignment::Natural, indent}};
+    indents_.apply(style, item.level, markerWidthOf(item));
     return style;
 }
 

@@ -9,6 +9,7 @@
 #include "QZCore/markdown/lists.h"
 #include "QZCore/markdown/style_sheet.h"
 #include "QZCore/richtext/font_manager.h"
+#include "richtext/item_indents.h"
 
 namespace QZCore {
 
@@ -50,9 +51,7 @@ private:
     Font font_;
     ParagraphStyle base_;
     bool alternatesDiscs_;
-    double levelsLess_;
-    double indention_;
-    double gap_;
+    ItemIndents indents_;
 };
 
 }  // namespace QZCore

@@ -8,7 +8,7 @@
 #include "support/font_scope.h"
 #include "support/markdown_settings.h"
 #include "support/tag_balance.h"
-#include "tools/qznote/html_writer.h"
+#include "QZCore/richtext/html.h"
 #include "tools/qznote/note.h"
 #include "tools/qznote/runs_writer.h"
 
@@ -41,7 +41,7 @@ TEST_CASE("the example notes render as their files of runs show") {
         const RichText text = qznote::renderedNote(qznote::noteText(*note), {});
         CHECK(qznote::runLines(text) == textOf(*expected));
         const std::string page =
-            qznote::htmlPage(text, {.title = u"Note", .base = qznote::baseAttributes({})});
+            toUTF8(htmlFromRichText(text, {.title = u"Note", .base = qznote::baseAttributes({}))});
         CHECK(testing::PageReader::read(page).fault == "");
         ++count;
     }

@@ -8,7 +8,7 @@
 #include "support/font_scope.h"
 #include "support/tag_balance.h"
 #include "support/text_rows.h"
-#include "tools/qznote/html_writer.h"
+#include "QZCore/richtext/html.h"
 #include "tools/qznote/note.h"
 #include "tools/qznote/outline_report.h"
 
@@ -63,7 +63,7 @@ TEST_CASE("lists nest in a page and in an outline as they do in their Markdown")
         const std::string expected = linesBelow(*listOutlineFromMarkdown(RichText(list)));
         const RichText text = qznote::renderedNote(list + u"\n\nend", {});
         CHECK(qznote::outlineReport(text, base) == expected);
-        const std::string page = qznote::htmlPage(text, {.title = u"Note", .base = base});
+        const std::string page = toUTF8(htmlFromRichText(text, {.title = u"Note", .base = base}));
         const testing::PageReading reading = testing::PageReader::read(page);
         CHECK(reading.fault == "");
         CHECK(reading.items == expected);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "blocks.h"
+#include "QZCore/richtext/blocks.h"
 #include "list_columns.h"
 #include "stand_ins.h"
 #include "terminal.h"

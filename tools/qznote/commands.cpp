@@ -14,7 +14,7 @@
 #include "command_line.h"
 #include "detection_report.h"
 #include "digest_report.h"
-#include "html_writer.h"
+#include "QZCore/richtext/html.h"
 #include "note.h"
 #include "outline_report.h"
 #include "palette_writer.h"
@@ -84,7 +84,8 @@ String titleOf(const Command& command) {
 std::string written(const RichText& text, const StyleSheet& styles, const Command& command) {
     switch (formatOf(command)) {
         case OutputFormat::Html:
-            return htmlPage(text, {.title = titleOf(command), .base = baseAttributes(styles)});
+            return toUTF8(htmlFromRichText(
+                text, {.title = titleOf(command), .base = baseAttributes(styles)}));
         case OutputFormat::Rtf:
             return std::string(textOf(text.RTF()));
         case OutputFormat::Ansi:

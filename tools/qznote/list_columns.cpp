@@ -3,6 +3,9 @@
 #include <algorithm>
 
 namespace qznote {
+
+using namespace QZCore;
+
 namespace {
 
 /// Items that stand side by side.
@@ -35,7 +38,7 @@ public:
     }
 
 private:
-    void enter(const ListItem& item) {
+    void enter(const TextListItem& item) {
         while (lists_[current_].depth > item.depth) current_ = lists_[current_].around;
         if (lists_[current_].depth < item.depth) {
             lists_.push_back({.around = current_, .depth = item.depth});

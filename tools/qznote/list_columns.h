@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "blocks.h"
+#include "QZCore/richtext/blocks.h"
 
 namespace qznote {
 
@@ -18,6 +18,6 @@ struct ListColumns {
 
 /// The columns of each block: a list is indented by two columns, and a list in
 /// an item stands below the item's text.
-[[nodiscard]] std::vector<ListColumns> columnsOfLists(const std::vector<Block>& blocks);
+[[nodiscard]] std::vector<ListColumns> columnsOfLists(const std::vector<QZCore::Block>& blocks);
 
 }  // namespace qznote

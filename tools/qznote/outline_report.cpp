@@ -1,6 +1,6 @@
 #include "outline_report.h"
 
-#include "blocks.h"
+#include "QZCore/richtext/blocks.h"
 #include "stand_ins.h"
 
 namespace qznote {
@@ -41,7 +41,7 @@ private:
 
     void writeItem(const Block& block) {
         constexpr std::size_t kBlanksPerLevel = 2;
-        const ListItem& item = block.item;
+        const TextListItem& item = block.item;
         out_.append((indent_ + item.depth - 1) * kBlanksPerLevel, ' ');
         out_ += toUTF8(item.marker()) + " ";
         writeLine(blocks_.lineOf(block));

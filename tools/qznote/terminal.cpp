@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "safe_link.h"
+#include "QZCore/richtext/html.h"
 #include "stand_ins.h"
 
 namespace qznote {

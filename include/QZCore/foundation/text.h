@@ -65,7 +65,12 @@ QZ_EXPORT void appendCodePoint(String& text, char32_t codePoint);
 /// Line ends: U+000A to U+000D, U+0085, U+2028 and U+2029.
 [[nodiscard]] QZ_EXPORT bool isNewline(char16_t unit);
 
-/// The union of both sets above.
+/// Control characters, the tab and line ends of ASCII and U+0085 among them.
+[[nodiscard]] constexpr bool isControl(char16_t unit) {
+    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
+}
+
+/// The union of white space and line ends.
 [[nodiscard]] QZ_EXPORT bool isWhitespaceOrNewline(char16_t unit);
 
 /// `text` without leading and trailing spaces, tabs and line ends.

@@ -47,6 +47,15 @@ public:
     /// `text`, all of it with `attributes`.
     explicit RichText(StringView text, const TextAttributes& attributes = {});
 
+    /// The text that a page of HTML shows: fonts, colours, decorations, shifts,
+    /// links, paragraphs, lists, tables with tabs, and images, of which nothing
+    /// is fetched. Style sheets and styles within the page count. The font is
+    /// the user's unless the page names another, links are not underlined, and
+    /// black text has the default colour of text. A "px" is 0.75 points. HTML
+    /// of 2^29 units or more cannot be read and gives nothing; any other text
+    /// can. Linear in the HTML, whatever is left open or nested.
+    [[nodiscard]] static std::optional<RichText> attributedStringWithHTML(StringView html);
+
     // ---- Reading ----
 
     /// The number of UTF-16 units.

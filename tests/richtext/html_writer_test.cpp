@@ -1,4 +1,4 @@
-#include "tools/qznote/html_writer.h"
+#include "QZCore/richtext/html.h"
 
 #include <doctest/doctest.h>
 
@@ -9,15 +9,14 @@
 #include "support/tag_balance.h"
 #include "support/text_rows.h"
 #include "tools/qznote/note.h"
-#include "tools/qznote/paragraphs.h"
-#include "tools/qznote/safe_link.h"
+#include "richtext/paragraphs.h"
 
 namespace QZCore {
 namespace {
 
 /// What stands between <main> and </main>.
 std::string bodyOf(const RichText& text, const TextAttributes& base) {
-    const std::string page = qznote::htmlPage(text, {.title = u"Note", .base = base});
+    const std::string page = toUTF8(htmlFromRichText(text, {.title = u"Note", .base = base}));
     const std::size_t start = page.find("<main>\n") + 7;
     return page.substr(start, page.find("</main>") - start);
 }
@@ -63,13 +62,13 @@ TEST_CASE("any rich text becomes a well-formed page that holds the same text") {
         RichText text(texts.next(20), base);
         scatterAttributes(text, random);
         std::string expected;
-        for (const Range paragraph : qznote::paragraphsOf(text.string())) {
+        for (const Range paragraph : paragraphsOf(text.string())) {
             expected += toUTF8(text.string(paragraph)) + "\n";
         }
         const auto reading = testing::PageReader::read(bodyOf(text, base));
         REQUIRE(reading.fault == "");
         REQUIRE(reading.text == expected);
-        const std::string page = qznote::htmlPage(text, {.title = u"</title>&", .base = base});
+        const std::string page = toUTF8(htmlFromRichText(text, {.title = u"</title>&", .base = base}));
         REQUIRE(testing::PageReader::read(page).fault == "");
     }
 }
@@ -126,7 +125,7 @@ TEST_CASE("a page names what its style sheet says of all text once") {
         {u"body", Dictionary{{kStyleFontColor, u"#112233"}, {kStyleBackgroundColor, u"#fff8e0"}}}};
     const RichText text = qznote::renderedNote(u"a *b*\n# c", styles);
     const TextAttributes base = qznote::baseAttributes(styles);
-    const std::string page = qznote::htmlPage(text, {.title = u"n", .base = base});
+    const std::string page = toUTF8(htmlFromRichText(text, {.title = u"n", .base = base}));
     CHECK(page.find("color:#112233;background-color:#fff8e0;color-scheme:light;\">\n<main>") !=
           std::string::npos);
     CHECK(bodyOf(text, base) ==
@@ -136,7 +135,7 @@ TEST_CASE("a page names what its style sheet says of all text once") {
 
 TEST_CASE("only links that run nothing are followed") {
     const auto isSafe = [](StringView target) {
-        return qznote::safeLink({{NSLinkAttributeName, target}}).has_value();
+        return safeLink({{NSLinkAttributeName, target}}).has_value();
     };
     for (const StringView target :
          {u"http://a.example", u"HTTPS://a.example", u"mailto:a@b.example", u"file:///a",

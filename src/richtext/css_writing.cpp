@@ -1,13 +1,11 @@
-#include "css.h"
+#include "richtext/css_writing.h"
 
 #include <algorithm>
 
-#include "stand_ins.h"
+#include "QZCore/color/color_bytes.h"
 
-namespace qznote {
+namespace QZCore {
 namespace {
-
-using namespace QZCore;
 
 /// The declaration, or nothing when the length is 0.
 String lengthUnlessZero(StringView property, double points) {
@@ -115,4 +113,4 @@ String cssOfParagraph(const ParagraphStyle& style, double fontSize) {
     return css;
 }
 
-}  // namespace qznote
+}  // namespace QZCore

@@ -1,11 +1,9 @@
-#include "html_containers.h"
+#include "richtext/html_containers.h"
 
-namespace qznote {
+namespace QZCore {
 namespace {
 
-using namespace QZCore;
-
-std::string nameOfList(const ListItem& item) { return item.isNumbered() ? "ol" : "ul"; }
+std::string nameOfList(const TextListItem& item) { return item.isNumbered() ? "ol" : "ul"; }
 
 std::string numberAttribute(const char* name, std::uint32_t number) {
     return " " + std::string(name) + "=\"" + std::to_string(number) + "\"";
@@ -13,7 +11,7 @@ std::string numberAttribute(const char* name, std::uint32_t number) {
 
 }  // namespace
 
-void HtmlContainers::startList(const ListItem& item) {
+void HtmlContainers::startList(const TextListItem& item) {
     // The direction of its text decides on which side the markers stand.
     page_ += "<" + nameOfList(item) + " dir=\"auto\"";
     if (item.isNumbered() && item.number != 1) page_ += numberAttribute("start", item.number);
@@ -22,8 +20,8 @@ void HtmlContainers::startList(const ListItem& item) {
     lists_.push_back(item);
 }
 
-void HtmlContainers::startItem(const ListItem& item) {
-    ListItem& last = lists_.back();
+void HtmlContainers::startItem(const TextListItem& item) {
+    TextListItem& last = lists_.back();
     page_ += "</li>\n<li";
     if (item.isNumbered() && item.number != last.number + 1) {
         page_ += numberAttribute("value", item.number);
@@ -32,7 +30,7 @@ void HtmlContainers::startItem(const ListItem& item) {
     last = item;
 }
 
-void HtmlContainers::enterItem(const ListItem& item) {
+void HtmlContainers::enterItem(const TextListItem& item) {
     while (!lists_.empty() && lists_.back().depth > item.depth) leaveList();
     if (lists_.empty() || lists_.back().depth < item.depth) return startList(item);
     if (lists_.back().bullet == item.bullet) return startItem(item);
@@ -55,7 +53,9 @@ void HtmlContainers::leaveList() {
 }
 
 void HtmlContainers::enterQuotation() {
-    page_ += "<blockquote dir=\"auto\">\n";
+    page_ += "<blockquote dir=\"auto\"";
+    if (form_ == HtmlForm::Fragment) page_ += " style=\"margin:0;\"";
+    page_ += ">\n";
     inQuotation_ = true;
 }
 
@@ -71,4 +71,4 @@ void HtmlContainers::leaveAll() {
     while (!lists_.empty()) leaveList();
 }
 
-}  // namespace qznote
+}  // namespace QZCore

@@ -1,14 +1,12 @@
-#include "blocks.h"
+#include "QZCore/richtext/blocks.h"
 
 #include <algorithm>
 #include <array>
 
-#include "paragraphs.h"
+#include "richtext/paragraphs.h"
 
-namespace qznote {
+namespace QZCore {
 namespace {
-
-using namespace QZCore;
 
 /// Headings have sizes of their own; these are where the next level begins.
 int levelOfHeading(double pointSize) {
@@ -119,4 +117,4 @@ Blocks BlockClassifier::blocksOf(const RichText& text) {
     return result;
 }
 
-}  // namespace qznote
+}  // namespace QZCore

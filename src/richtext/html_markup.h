@@ -7,15 +7,15 @@
 #include "QZCore/foundation/text.h"
 #include "QZCore/platform/images.h"
 
-namespace qznote {
+namespace QZCore {
 
 /// `text` as it stands in a page, between tags and in attribute values alike.
 /// Control characters other than the tab and the line feed, and unpaired
 /// surrogates, become U+FFFD.
-[[nodiscard]] std::string escapedMarkup(QZCore::StringView text);
+[[nodiscard]] std::string escapedMarkup(StringView text);
 
 /// The bytes of `image` as a "data:" URI.
-[[nodiscard]] std::string dataUri(const QZCore::Image& image);
+[[nodiscard]] std::string dataUri(const Image& image);
 
 /// An element that text stands in.
 struct Element {
@@ -29,7 +29,7 @@ struct Element {
 };
 
 /// The attribute `name` with an escaped value; nothing for an empty value.
-[[nodiscard]] std::string markupAttribute(std::string_view name, QZCore::StringView value);
+[[nodiscard]] std::string markupAttribute(std::string_view name, StringView value);
 
 /// The tags that start and end elements around stretches of text, nested
 /// properly. What two neighbouring stretches have in common, from the outermost
@@ -48,4 +48,4 @@ private:
     std::vector<Element> open_;
 };
 
-}  // namespace qznote
+}  // namespace QZCore

@@ -1,10 +1,8 @@
-#include "paragraphs.h"
+#include "richtext/paragraphs.h"
 
 #include <algorithm>
 
-namespace qznote {
-
-using namespace QZCore;
+namespace QZCore {
 
 std::vector<Range> paragraphsOf(StringView text) {
     constexpr StringView kEnds = u"\n\r\u0085\u2029";
@@ -18,4 +16,4 @@ std::vector<Range> paragraphsOf(StringView text) {
     return paragraphs;
 }
 
-}  // namespace qznote
+}  // namespace QZCore

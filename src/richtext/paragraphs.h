@@ -6,11 +6,11 @@
 #include "QZCore/foundation/range.h"
 #include "QZCore/foundation/text.h"
 
-namespace qznote {
+namespace QZCore {
 
 /// The paragraphs of `text` in order, without their ends: line feed, carriage
 /// return, both in a row, next line, or paragraph separator. An end at the end
 /// of the text starts no further paragraph.
-[[nodiscard]] std::vector<QZCore::Range> paragraphsOf(QZCore::StringView text);
+[[nodiscard]] std::vector<Range> paragraphsOf(StringView text);
 
-}  // namespace qznote
+}  // namespace QZCore

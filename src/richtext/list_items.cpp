@@ -1,11 +1,9 @@
-#include "list_item.h"
+#include "QZCore/richtext/list_items.h"
 
 #include <algorithm>
 
-namespace qznote {
+namespace QZCore {
 namespace {
-
-using namespace QZCore;
 
 constexpr std::size_t kMostDigits = 9;
 
@@ -16,24 +14,24 @@ bool hasStopsOfItems(const ParagraphStyle& style) {
 }
 
 /// The item with the marker.
-std::optional<ListItem> itemOfMarker(StringView marker) {
+std::optional<TextListItem> itemOfMarker(StringView marker) {
     if (marker == StringView(&kFilledBullet, 1) || marker == StringView(&kOpenBullet, 1)) {
-        return ListItem{.bullet = marker.front()};
+        return TextListItem{.bullet = marker.front()};
     }
     const StringView digits = marker.substr(0, marker.find_first_not_of(u"0123456789"));
     if (digits.empty() || digits.size() > kMostDigits || marker.substr(digits.size()) != u".") {
         return std::nullopt;
     }
-    return ListItem{.bullet = u'\0', .number = static_cast<std::uint32_t>(integerValue(digits))};
+    return TextListItem{.bullet = u'\0', .number = static_cast<std::uint32_t>(integerValue(digits))};
 }
 
 }  // namespace
 
-String ListItem::marker() const {
+String TextListItem::marker() const {
     return isNumbered() ? unsignedString(number) + u"." : String(1, bullet);
 }
 
-std::optional<FoundListItem> listItemAt(const RichText& text, Range paragraph) {
+std::optional<FoundTextListItem> listItemAt(const RichText& text, Range paragraph) {
     constexpr std::size_t kLongestStart = kMostDigits + 3;  // two tabs and a full stop
     if (text.characterAtIndex(paragraph.location) != u'\t') return std::nullopt;
     const TextAttributes attributes = text.attributesAtIndex(paragraph.location);
@@ -46,7 +44,7 @@ std::optional<FoundListItem> listItemAt(const RichText& text, Range paragraph) {
     auto item = itemOfMarker(StringView(start).substr(1, tab - 1));
     if (!item) return std::nullopt;
     item->depth = style->textLists.size() + 1;
-    return FoundListItem{*item, {paragraph.location + tab + 1, paragraph.length - tab - 1}};
+    return FoundTextListItem{*item, {paragraph.location + tab + 1, paragraph.length - tab - 1}};
 }
 
-}  // namespace qznote
+}  // namespace QZCore

@@ -1,30 +1,10 @@
-#include "html_markup.h"
+#include "richtext/html_markup.h"
 
 #include <algorithm>
 
-#include "stand_ins.h"
+#include "foundation/base64.h"
 
-namespace qznote {
-namespace {
-
-using namespace QZCore;
-
-void appendBase64(std::string& text, DataView bytes) {
-    constexpr std::string_view kDigits =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    constexpr std::size_t kGroup = 3;
-    for (std::size_t at = 0; at < bytes.size(); at += kGroup) {
-        const std::size_t count = std::min(kGroup, bytes.size() - at);
-        std::uint32_t bits = 0;
-        for (std::size_t i = 0; i < kGroup; ++i) bits = bits << 8 | (i < count ? bytes[at + i] : 0);
-        for (std::size_t i = 0; i <= kGroup; ++i) {
-            text += i <= count ? kDigits[bits >> (18 - 6 * i) & 63] : '=';
-        }
-    }
-}
-
-}  // namespace
-
+namespace QZCore {
 std::string escapedMarkup(StringView text) {
     String escaped;
     escaped.reserve(text.size());
@@ -72,4 +52,4 @@ void NestedElements::change(std::vector<Element> wanted) {
     open_ = std::move(wanted);
 }
 
-}  // namespace qznote
+}  // namespace QZCore

@@ -1,20 +1,23 @@
-// Items of lists, as rich text shows them.
+// Items of lists, as rich text shows them: as paragraphs that start with a
+// marker between two tabs. May be called from any thread.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 
+#include "QZCore/export.h"
 #include "QZCore/richtext/rich_text.h"
 
-namespace qznote {
+namespace QZCore {
 
-/// The bullets of items.
+/// The bullet of items at odd depths.
 inline constexpr char16_t kFilledBullet = u'\u25CF';
+/// The bullet of items at even depths.
 inline constexpr char16_t kOpenBullet = u'\u25E6';
 
 /// What distinguishes an item from other paragraphs.
-struct ListItem {
+struct TextListItem {
     /// 1 for the items of the list itself, one more for each item around.
     std::size_t depth = 1;
     /// One of the bullets; U+0000 for an item with a number.
@@ -26,19 +29,21 @@ struct ListItem {
     [[nodiscard]] bool isNumbered() const { return bullet == u'\0'; }
 
     /// The bullet, or the number with a full stop.
-    [[nodiscard]] QZCore::String marker() const;
+    [[nodiscard]] QZ_EXPORT String marker() const;
 };
 
 /// An item, and where its text stands behind the marker.
-struct FoundListItem {
-    ListItem item;
-    QZCore::Range text;
+struct FoundTextListItem {
+    /// What it is.
+    TextListItem item;
+    /// Its text.
+    Range text;
 };
 
 /// The item that `paragraph` is: a tab, its marker, a tab and its text, with a
 /// stop where markers end and one where texts start. A paragraph that was only
 /// typed so is none, since it lacks the stops.
-[[nodiscard]] std::optional<FoundListItem> listItemAt(const QZCore::RichText& text,
-                                                      QZCore::Range paragraph);
+[[nodiscard]] QZ_EXPORT std::optional<FoundTextListItem> listItemAt(const RichText& text,
+                                                                    Range paragraph);
 
-}  // namespace qznote
+}  // namespace QZCore

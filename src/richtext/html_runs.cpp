@@ -1,15 +1,13 @@
-#include "html_runs.h"
+#include "richtext/html_runs.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 
-#include "css.h"
-#include "safe_link.h"
+#include "richtext/css_writing.h"
 
-namespace qznote {
+namespace QZCore {
 namespace {
-
-using namespace QZCore;
 
 /// The background, unless it shows nothing.
 std::optional<Color> shownBackground(const TextAttributes& attributes) {
@@ -39,6 +37,25 @@ std::uint32_t traitsOf(const TextAttributes& attributes) {
     return attributes.font() == nullptr ? 0 : attributes.font()->traits;
 }
 
+/// A page says the same for all of its links.
+std::string styleOfLinks(HtmlForm form) {
+    return form == HtmlForm::Page ? "" : " style=\"color:inherit;text-decoration:none;\"";
+}
+
+/// Adds what raises or lowers text.
+void addShifts(std::vector<Element>& elements, const TextAttributes& attributes) {
+    constexpr std::int32_t kMost = 8;
+    const std::int32_t level =
+        std::clamp(attributes.objectForKey(NSSuperscriptAttributeName).intValue(), -kMost, kMost);
+    for (std::int32_t i = 0; i < std::abs(level); ++i) {
+        elements.push_back({level > 0 ? "sup" : "sub", {}});
+    }
+    const double offset = attributes.objectForKey(NSBaselineOffsetAttributeName).doubleValue();
+    if (offset == 0) return;
+    elements.push_back(
+        {"span", markupAttribute("style", u"vertical-align:" + cssLength(offset) + u";")});
+}
+
 }  // namespace
 
 String RunMarkup::css(const TextAttributes& attributes, const TextAttributes& around) {
@@ -63,12 +80,13 @@ std::vector<Element> RunMarkup::elementsFor(const TextAttributes& attributes,
                                             const TextAttributes& around) {
     std::vector<Element> elements;
     if (const auto link = safeLink(attributes)) {
-        elements.push_back({"a", markupAttribute("href", *link)});
+        elements.push_back({"a", markupAttribute("href", *link) + styleOfLinks(form_)});
     }
     const String look = css(attributes, around);
     if (!look.empty()) {
         const bool isMarked = look.find(u"background-color:") != String::npos;
-        const char* name = !isMarked ? "span" : classifier_.isCode(attributes) ? "code" : "mark";
+        const bool isPlain = !isMarked || form_ == HtmlForm::Fragment;
+        const char* name = isPlain ? "span" : classifier_.isCode(attributes) ? "code" : "mark";
         elements.push_back({name, markupAttribute("style", look)});
     }
     const std::uint32_t added = traitsOf(attributes) & ~traitsOf(around);
@@ -76,37 +94,53 @@ std::vector<Element> RunMarkup::elementsFor(const TextAttributes& attributes,
     if ((added & kFontItalic) != 0) elements.push_back({"em", {}});
     if (attributes.underlineStyle() != 0) elements.push_back({"u", {}});
     if (attributes.strikethroughStyle() != 0) elements.push_back({"s", {}});
+    addShifts(elements, attributes);
     return elements;
 }
 
 void RunMarkup::writeImage(const TextAttachment& attachment) {
     page_ += "<img";
-    if (attachment.image != nullptr) page_ += " src=\"" + dataUri(*attachment.image) + "\"";
+    if (attachment.image != nullptr) {
+        page_ += " src=\"" + dataUri(*attachment.image) + "\"";
+    } else if (const auto source = safeLink({{NSLinkAttributeName, attachment.source}})) {
+        page_ += markupAttribute("src", *source);
+    }
     // An image without an alternative text is announced by its address.
     page_ += " alt=\"" + escapedMarkup(attachment.alternativeText) + "\"";
-    page_ += markupAttribute("style", u"width:" + cssLength(attachment.width) + u";height:" +
-                                          cssLength(attachment.height) + u";");
+    if (attachment.width > 0 && attachment.height > 0) {
+        page_ += markupAttribute("style", u"width:" + cssLength(attachment.width) + u";height:" +
+                                              cssLength(attachment.height) + u";");
+    }
     page_ += ">";
 }
 
-void RunMarkup::writeText(StringView text, const TextAttachment* attachment) {
-    while (attachment != nullptr) {
-        const std::size_t at = text.find(kAttachmentCharacter);
-        if (at == StringView::npos) break;
-        page_ += escapedMarkup(text.substr(0, at));
-        writeImage(*attachment);
-        text.remove_prefix(at + 1);
+void RunMarkup::writeText(StringView text) {
+    constexpr char16_t kLineSeparator = u'\u2028';
+    for (std::size_t at; (at = text.find(kLineSeparator)) != text.npos;
+         text.remove_prefix(at + 1)) {
+        page_ += escapedMarkup(text.substr(0, at)) + "<br>";
     }
     page_ += escapedMarkup(text);
+}
+
+void RunMarkup::writeText(StringView text, const TextAttachment& attachment) {
+    for (std::size_t at; (at = text.find(kAttachmentCharacter)) != text.npos;
+         text.remove_prefix(at + 1)) {
+        writeText(text.substr(0, at));
+        writeImage(attachment);
+    }
+    writeText(text);
 }
 
 void RunMarkup::write(Range range, const TextAttributes& around) {
     NestedElements elements(page_);
     for (const TextRunView run : text_.runs(range)) {
         elements.change(elementsFor(run.attributes, around));
-        writeText(text_.string(run.range), run.attributes.attachment());
+        const TextAttachment* attachment = run.attributes.attachment();
+        const String text = text_.string(run.range);
+        attachment == nullptr ? writeText(text) : writeText(text, *attachment);
     }
     elements.change({});
 }
 
-}  // namespace qznote
+}  // namespace QZCore

@@ -1,13 +1,9 @@
-#include "safe_link.h"
+#include "QZCore/richtext/html.h"
 
 #include <algorithm>
 #include <array>
 
-#include "stand_ins.h"
-
-namespace qznote {
-
-using namespace QZCore;
+namespace QZCore {
 
 String schemeOf(StringView target) {
     const std::size_t end = target.find_first_of(u":/?#");
@@ -34,4 +30,4 @@ std::optional<String> safeLink(const TextAttributes& attributes) {
     return target;
 }
 
-}  // namespace qznote
+}  // namespace QZCore

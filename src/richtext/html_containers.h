@@ -4,15 +4,16 @@
 #include <string>
 #include <vector>
 
-#include "blocks.h"
+#include "QZCore/richtext/blocks.h"
+#include "QZCore/richtext/html.h"
 
-namespace qznote {
+namespace QZCore {
 
 /// Ends and starts containers as blocks follow each other, nested properly.
 class HtmlContainers {
 public:
     /// Tags are appended to `page`, which must outlive this.
-    explicit HtmlContainers(std::string& page) : page_(page) {}
+    HtmlContainers(std::string& page, HtmlForm form) : page_(page), form_(form) {}
 
     /// Makes the containers of `block` the open ones. Of an item that is several
     /// levels below the one before it, only one level is seen.
@@ -22,17 +23,18 @@ public:
     void leaveAll();
 
 private:
-    void enterItem(const ListItem& item);
-    void startList(const ListItem& item);
-    void startItem(const ListItem& item);
+    void enterItem(const TextListItem& item);
+    void startList(const TextListItem& item);
+    void startItem(const TextListItem& item);
     void leaveList();
     void enterQuotation();
     void leaveQuotation();
 
     std::string& page_;
+    HtmlForm form_;
     // The last item of each open list, outermost first. Each holds the next list.
-    std::vector<ListItem> lists_;
+    std::vector<TextListItem> lists_;
     bool inQuotation_ = false;
 };
 
-}  // namespace qznote
+}  // namespace QZCore

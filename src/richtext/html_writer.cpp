@@ -1,17 +1,15 @@
-#include "html_writer.h"
+#include "QZCore/richtext/html.h"
 
 #include <utility>
 
-#include "blocks.h"
-#include "css.h"
-#include "html_containers.h"
-#include "html_markup.h"
-#include "html_runs.h"
+#include "QZCore/richtext/blocks.h"
+#include "richtext/css_writing.h"
+#include "richtext/html_containers.h"
+#include "richtext/html_markup.h"
+#include "richtext/html_runs.h"
 
-namespace qznote {
+namespace QZCore {
 namespace {
-
-using namespace QZCore;
 
 // Blocks stand in a column, so that the space after one and the space before
 // the next add up, as they do in rich text.
@@ -49,45 +47,67 @@ std::string elementOf(const Block& block, StringView style) {
     return "p";
 }
 
+TextAttributes withFont(const TextAttributes& base) {
+    if (base.font() != nullptr) return base;
+    return base.withAttribute(NSFontAttributeName,
+                              Value::boxed(FontManager::shared().userFont(kFontDefaultSize)));
+}
+
 class Writer {
 public:
-    Writer(const RichText& text, const HtmlPage& page)
+    Writer(const RichText& text, const HtmlOptions& options)
         : text_(text),
-          page_(page),
-          classifier_(page.base),
+          options_(options),
+          base_(withFont(options.base)),
+          classifier_(base_),
           blocks_(classifier_.blocksOf(text)),
-          containers_(out_),
-          runs_(text, classifier_, out_) {}
+          containers_(out_, options.form),
+          runs_(text, classifier_, out_, options.form) {}
 
-    [[nodiscard]] std::string write() {
+    [[nodiscard]] String write() {
+        isFragment() ? writeFragment() : writePage();
+        return fromUTF8(out_);
+    }
+
+private:
+    [[nodiscard]] bool isFragment() const { return options_.form == HtmlForm::Fragment; }
+
+    void writePage() {
         out_ = "<!doctype html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n";
         out_ += "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n";
         out_ += "<title>" + escapedMarkup(title()) + "</title>\n<style>";
         out_ += kPageStyle;
         out_ +=
             "</style>\n</head>\n<body" + markupAttribute("style", styleOfBody()) + ">\n<main>\n";
-        for (std::size_t i = 0; i < blocks_.blocks.size(); ++i) writeBlock(i);
-        containers_.leaveAll();
+        writeBlocks();
         out_ += "</main>\n</body>\n</html>\n";
-        return std::move(out_);
     }
 
-private:
+    void writeFragment() {
+        out_ = "<div" + markupAttribute("style", styleOfBody()) + ">\n";
+        writeBlocks();
+        out_ += "</div>\n";
+    }
+
+    void writeBlocks() {
+        for (std::size_t i = 0; i < blocks_.blocks.size(); ++i) writeBlock(i);
+        containers_.leaveAll();
+    }
+
     [[nodiscard]] String title() const {
         for (const Block& block : blocks_.blocks) {
             if (block.kind == BlockKind::Heading) return text_.string(blocks_.lineOf(block));
         }
-        return page_.title;
+        return options_.title;
     }
 
     [[nodiscard]] String styleOfBody() {
         String css;
-        if (const Font* font = page_.base.font()) {
-            const bool fixed = classifier_.isFixedWidth(*font);
-            css += cssOfFamily(*font, fixed ? FontKind::FixedWidth : FontKind::Proportional);
-            css += u"font-size:" + cssLength(font->pointSize) + u";";
-        }
-        const String colors = runs_.css(page_.base.withoutAttribute(NSFontAttributeName), {});
+        const Font& font = *base_.font();
+        const bool fixed = classifier_.isFixedWidth(font);
+        css += cssOfFamily(font, fixed ? FontKind::FixedWidth : FontKind::Proportional);
+        css += u"font-size:" + cssLength(font.pointSize) + u";";
+        const String colors = runs_.css(base_.withoutAttribute(NSFontAttributeName), {});
         // Chosen colours suit one scheme.
         return colors.empty() ? css : css + colors + u"color-scheme:light;";
     }
@@ -99,10 +119,9 @@ private:
     /// What the runs of a block take from the block.
     [[nodiscard]] TextAttributes lookOf(const Block& block) const {
         if (block.kind == BlockKind::Code) return firstAttributesOf(block);
-        if (block.kind != BlockKind::Heading) return page_.base;
+        if (block.kind != BlockKind::Heading) return base_;
         return firstAttributesOf(block).withAttribute(
-            NSBackgroundColorAttributeName,
-            page_.base.objectForKey(NSBackgroundColorAttributeName));
+            NSBackgroundColorAttributeName, base_.objectForKey(NSBackgroundColorAttributeName));
     }
 
     /// Whether the block behind this one is a part of the same quotation.
@@ -112,11 +131,13 @@ private:
     }
 
     [[nodiscard]] String styleOf(std::size_t index, const TextAttributes& look) {
-        constexpr double kUsualSize = 12;
         const Block& block = blocks_.blocks[index];
         const TextAttributes first = firstAttributesOf(block);
-        const double size = look.font() == nullptr ? kUsualSize : look.font()->pointSize;
-        String css = runs_.css(look, page_.base);
+        const double size = look.font() == nullptr ? kFontDefaultSize : look.font()->pointSize;
+        String css;
+        // A page says these for all of its blocks.
+        if (isFragment()) css += u"margin:0;white-space:pre-wrap;";
+        css += runs_.css(look, base_);
         if (first.paragraphStyle() == nullptr) return css;
         ParagraphStyle style = *first.paragraphStyle();
         // The list around an item indents it.
@@ -135,18 +156,21 @@ private:
         const String style = styleOf(index, look);
         const std::string name = elementOf(block, style);
         if (!name.empty()) out_ += "<" + name + markupAttribute("style", style) + ">";
-        if (block.kind == BlockKind::Code) out_ += "<code>";
+        const bool isPageCode = block.kind == BlockKind::Code && !isFragment();
+        if (isPageCode) out_ += "<code>";
         for (std::size_t i = block.first; i < block.end; ++i) {
             if (i > block.first) out_ += "\n";
             runs_.write(blocks_.lines[i], look);
         }
-        if (block.kind == BlockKind::Code) out_ += "</code>";
+        if (isPageCode) out_ += "</code>";
+        if (isFragment() && blocks_.lines[block.end - 1].length == 0) out_ += "<br>";
         if (!name.empty()) out_ += "</" + name + ">";
         if (!block.isInList || block.isQuoted) out_ += "\n";
     }
 
     const RichText& text_;
-    const HtmlPage& page_;
+    const HtmlOptions& options_;
+    TextAttributes base_;
     BlockClassifier classifier_;
     Blocks blocks_;
     std::string out_;
@@ -156,8 +180,8 @@ private:
 
 }  // namespace
 
-std::string htmlPage(const RichText& text, const HtmlPage& page) {
-    return Writer(text, page).write();
+String htmlFromRichText(const RichText& text, const HtmlOptions& options) {
+    return Writer(text, options).write();
 }
 
-}  // namespace qznote
+}  // namespace QZCore

@@ -1,0 +1,267 @@
+#include "richtext/html_text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "QZCore/richtext/font_manager.h"
+#include "richtext/attribute_names.h"
+#include "richtext/item_indents.h"
+
+namespace QZCore {
+namespace {
+
+constexpr char16_t kLineSeparator = u'\u2028';
+constexpr StringView kBlanks = u" \t\n\f";
+
+/// Black text, and text of no chosen colour, follows the application.
+TextAttributes withReadableColor(const TextAttributes& attributes) {
+    const Color* color = attributes.foregroundColor();
+    if (color != nullptr && !color->isBlackColor()) return attributes;
+    return attributes.withAttribute(attributeNames().foregroundColor,
+                                    Value::boxed(Color::textColor()));
+}
+
+/// Numbers paragraph styles.
+class StyleNumbers {
+public:
+    [[nodiscard]] std::uint32_t numberOf(const ParagraphStyle& style) {
+        if (!styles_.empty() && style == styles_[last_]) return last_;
+        std::vector<std::uint32_t>& alike = byHash_[hashOf(style)];
+        const auto known = std::ranges::find_if(
+            alike, [&](std::uint32_t number) { return styles_[number] == style; });
+        if (known != alike.end()) return last_ = *known;
+        last_ = static_cast<std::uint32_t>(styles_.size());
+        alike.push_back(last_);
+        styles_.push_back(style);
+        values_.push_back(style == ParagraphStyle() ? Value() : Value::boxed(style));
+        return last_;
+    }
+
+    [[nodiscard]] const Value& value(std::uint32_t number) const { return values_[number]; }
+
+private:
+    std::vector<ParagraphStyle> styles_;
+    std::vector<Value> values_;
+    std::unordered_map<std::size_t, std::vector<std::uint32_t>> byHash_;
+    std::uint32_t last_ = 0;
+};
+
+/// What an item and the paragraphs below it in the item need: one indent for
+/// all items of a list.
+void applyList(ParagraphStyle& style, const HtmlItem& item, const HtmlList& list,
+               const Font& font) {
+    const auto count = static_cast<std::size_t>(
+        std::max<std::int64_t>(static_cast<std::int64_t>(list.items), list.greatest));
+    const String sample = list.isNumbered ? widestItemNumber(count) : item.marker;
+    const double width = std::ceil(FontManager::shared().widthOfText(sample, font));
+    const ParagraphStyle before = style;
+    ItemIndents().apply(style, static_cast<double>(list.depth), width);
+    style.headIndent += before.headIndent;
+    for (TextTab& tab : style.tabStops) tab.location += before.headIndent;
+    style.textLists = list.around;
+}
+
+}  // namespace
+
+void HtmlText::append(StringView text, std::uint32_t id) {
+    text_ += text;
+    appendRun(runs_, static_cast<std::uint32_t>(text_.size()), id);
+}
+
+void HtmlText::open(const HtmlPlace& place, std::uint32_t id) {
+    if (!paragraphs_.empty()) {
+        append(u"\n", runs_.empty() ? id : runs_.back().id);
+        paragraphs_.back().end = static_cast<std::uint32_t>(text_.size());
+    }
+    if (paragraphs_.empty()) firstId_ = id;
+    paragraphs_.push_back({0, paragraphStyleOf(place.block), place.item});
+    isOpen_ = isLineStart_ = true;
+    hasSpace_ = false;
+    if (place.item == nullptr) return;
+    if (!place.item->isMarked) {
+        append(u"\t" + place.item->marker + u"\t", palette_.idOf(place.item->attributes));
+        paragraphs_.back().style.firstLineHeadIndent = 0;
+        place.item->isMarked = true;
+    }
+}
+
+/// Splits at a line end that white space keeps: the space around the block
+/// stands around its first and its last line.
+void HtmlText::splitParagraph(std::uint32_t id) {
+    append(u"\n", id);
+    Paragraph next = paragraphs_.back();
+    paragraphs_.back().end = static_cast<std::uint32_t>(text_.size());
+    paragraphs_.back().style.paragraphSpacing = 0;
+    next.style.paragraphSpacingBefore = 0;
+    paragraphs_.push_back(std::move(next));
+}
+
+void HtmlText::writeLineEnds(std::size_t count, std::uint32_t id) {
+    for (const char16_t end : StringView(lineEnds_).substr(0, count)) {
+        if (end == u'\n') {
+            splitParagraph(id);
+        } else {
+            append(StringView(&end, 1), id);
+        }
+    }
+    lineEnds_.clear();
+}
+
+/// What was put off until there is more to show.
+void HtmlText::writePending(const HtmlPlace& place, std::uint32_t id) {
+    if (!isOpen_) open(place, id);
+    writeLineEnds(lineEnds_.size(), id);
+    append(String(std::exchange(tabs_, 0), u'\t'), id);
+    if (std::exchange(hasSpace_, false)) append(u" ", spaceId_);
+    isLineStart_ = false;
+}
+
+void HtmlText::addText(StringView text, HtmlSpace space, const HtmlPlace& place,
+                       const TextAttributes& attributes) {
+    const std::uint32_t id = palette_.idOf(attributes);
+    if (space == HtmlSpace::Keep) {
+        addKept(text, place, id);
+    } else {
+        addCollapsed(text, space == HtmlSpace::KeepLines, place, id);
+    }
+}
+
+void HtmlText::addKept(StringView text, const HtmlPlace& place, std::uint32_t id) {
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(u'\n'), text.size());
+        if (end > 0) {
+            writePending(place, id);
+            append(text.substr(0, end), id);
+        }
+        if (end < text.size()) addLineEnd(u'\n', place, id);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+}
+
+void HtmlText::addCollapsed(StringView text, bool keepsLines, const HtmlPlace& place,
+                            std::uint32_t id) {
+    while (!text.empty()) {
+        const std::size_t word = std::min(text.find_first_of(kBlanks), text.size());
+        if (word > 0) {
+            writePending(place, id);
+            append(text.substr(0, word), id);
+            text.remove_prefix(word);
+            continue;
+        }
+        const std::size_t blanks = std::min(text.find_first_not_of(kBlanks), text.size());
+        const auto ends = std::ranges::count(text.substr(0, blanks), u'\n');
+        text.remove_prefix(blanks);
+        if (keepsLines && ends > 0) {
+            for (auto i = ends; i > 0; --i) addLineEnd(u'\n', place, id);
+        } else if (isOpen_ && !isLineStart_ && !hasSpace_) {
+            hasSpace_ = true;
+            spaceId_ = id;
+        }
+    }
+}
+
+void HtmlText::addLineEnd(char16_t end, const HtmlPlace& place, std::uint32_t id) {
+    if (!isOpen_) open(place, id);
+    lineEnds_ += end;
+    hasSpace_ = false;
+    isLineStart_ = true;
+}
+
+void HtmlText::breakLine(const HtmlPlace& place, const TextAttributes& attributes) {
+    addLineEnd(kLineSeparator, place, palette_.idOf(attributes));
+}
+
+void HtmlText::addAttachment(const HtmlPlace& place, const TextAttributes& attributes) {
+    const std::uint32_t id = palette_.idOf(attributes);
+    writePending(place, id);
+    append(StringView(&kAttachmentCharacter, 1), id);
+}
+
+/// A line end that nothing follows in the paragraph shows no line.
+void HtmlText::endParagraph() {
+    if (tabs_ > 0 || !isOpen_) return;
+    if (!lineEnds_.empty()) {
+        writeLineEnds(lineEnds_.size() - 1, runs_.empty() ? 0 : runs_.back().id);
+    }
+    isOpen_ = hasSpace_ = false;
+    isLineStart_ = true;
+}
+
+void HtmlText::addEmptyParagraph(const HtmlPlace& place, const TextAttributes& attributes) {
+    endParagraph();
+    open(place, palette_.idOf(attributes));
+    endParagraph();
+}
+
+void HtmlText::startRow() {
+    endRow();
+    isInRow_ = true;
+    rowStart_ = paragraphs_.size();
+}
+
+/// A cell goes on with the paragraph that the one before has ended with.
+void HtmlText::startCell() {
+    if (!isInRow_ || std::exchange(isFirstCell_, false)) return endParagraph();
+    hasSpace_ = false;
+    isLineStart_ = true;
+    isOpen_ = paragraphs_.size() > rowStart_;
+    ++tabs_;
+}
+
+void HtmlText::endRow() {
+    tabs_ = 0;
+    endParagraph();
+    isInRow_ = false;
+    isFirstCell_ = true;
+}
+
+FlatText HtmlText::inParagraphStyles(const std::vector<HtmlList>& lists,
+                                     AttributePalette& palette) {
+    FlatText flat;
+    StyleNumbers styles;
+    std::unordered_map<std::uint64_t, std::uint32_t> ids;  // by style and attributes
+    std::uint32_t start = 0;
+    std::size_t run = 0;
+    for (Paragraph& paragraph : paragraphs_) {
+        if (const HtmlItem* item = paragraph.item) {
+            const Font* font = item->attributes.font();
+            applyList(paragraph.style, *item, lists[item->list], font == nullptr ? Font{} : *font);
+        }
+        const std::uint64_t style = styles.numberOf(paragraph.style);
+        for (; start < paragraph.end; start = std::min(runs_[run].end, paragraph.end)) {
+            while (runs_[run].end <= start) ++run;
+            const std::uint32_t id = runs_[run].id;
+            const auto [at, isNew] = ids.try_emplace(style << 32 | id);
+            if (isNew) {
+                at->second = palette.idOf(withReadableColor(palette_.at(id).withAttribute(
+                    attributeNames().paragraphStyle,
+                    styles.value(static_cast<std::uint32_t>(style)))));
+            }
+            appendRun(flat.runs, std::min(runs_[run].end, paragraph.end), at->second);
+        }
+    }
+    flat.text = std::move(text_);
+    return flat;
+}
+
+RichText HtmlText::take(const std::vector<HtmlList>& lists) {
+    endRow();
+    if (!paragraphs_.empty()) {
+        // Without an end of its own an empty paragraph would not be one.
+        const std::size_t start =
+            paragraphs_.size() > 1 ? paragraphs_[paragraphs_.size() - 2].end : 0;
+        if (text_.size() == start) append(u"\n", runs_.empty() ? firstId_ : runs_.back().id);
+        paragraphs_.back().end = static_cast<std::uint32_t>(text_.size());
+    }
+    AttributePalette palette;
+    std::vector<FlatText> parts;
+    parts.push_back(inParagraphStyles(lists, palette));
+    RichText text;
+    if (!parts.front().text.empty()) {
+        FlatTextAccess::replaceContents(text, std::move(parts), std::move(palette));
+    }
+    return text;
+}
+
+}  // namespace QZCore
