@@ -22,6 +22,13 @@ std::size_t indentationOf(const RichText& text, Range line) {
     return std::min(blanks, line.length);
 }
 
+/// Whether a paragraph of an item ends its list by the space behind it.
+bool hasSpaceBehind(const RichText& text, Range line) {
+    const TextAttributes attributes = text.attributesAtIndex(line.location);
+    const ParagraphStyle* style = attributes.paragraphStyle();
+    return style != nullptr && !style->tabStops.empty() && style->paragraphSpacing > 0;
+}
+
 bool isEmptyLine(const Block& block, Range line) {
     return block.kind == BlockKind::Paragraph && line.length == 0;
 }
@@ -92,12 +99,15 @@ Blocks BlockClassifier::blocksOf(const RichText& text) {
     Blocks result{paragraphsOf(text.string()), {}};
     auto& [lines, blocks] = result;
     bool inList = false;
+    bool isBehindSpace = false;   // whether the paragraph stands apart from the one before
     std::size_t indentation = 0;  // of the first line of a block in an item
     for (std::size_t i = 0; i < lines.size(); ++i) {
         Block block = blockOf(text, lines[i]);
-        const bool endsList = inList && isEmptyLine(block, lines[i]);
+        const bool endsList = inList && (isEmptyLine(block, lines[i]) || isBehindSpace);
         inList = block.kind == BlockKind::Item || (inList && !endsList);
-        if (endsList && i + 1 < lines.size() && lines[i + 1].length == 0) continue;
+        isBehindSpace = hasSpaceBehind(text, lines[i]);
+        if (endsList && lines[i].length == 0 && i + 1 < lines.size() && lines[i + 1].length == 0)
+            continue;
         block.isInList = inList;
         block.first = i;
         block.end = i + 1;

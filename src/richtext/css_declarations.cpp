@@ -177,6 +177,13 @@ private:
 
     /// Style and weight, the size with an optional line height, and families.
     void addFont(StringView text) const {
+        if (equalsIgnoringAsciiCase(text, u"inherit")) {
+            for (const CssProperty part : {CssProperty::FontFamily, CssProperty::FontSize,
+                                           CssProperty::FontWeight, CssProperty::FontStyle}) {
+                set(part, CssInherit{});
+            }
+            return;
+        }
         for (std::size_t at = 0; at < text.size();) {
             const std::size_t end = findInCss(text, at, u" \t\n\f");
             const StringView part = text.substr(at, end - at);

@@ -16,7 +16,8 @@ noembed, noframes, object, param, rp, script, select, source, style, svg, templa
 video { display: none }
 
 p { margin-bottom: 1em }
-ul, ol, menu, dir { list-style-type: normal }
+ul, ol, menu, dir { list-style-type: normal; margin-bottom: 1em }
+li ul, li ol, li menu, li dir { margin-bottom: 0 }
 blockquote, figure { margin-left: 30pt; margin-right: 30pt }
 dd { margin-left: 30pt }
 h1 { font-size: 2em; margin-top: 0.67em; margin-bottom: 0.67em }

@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kRegular = 400;
 constexpr int kBold = 700;
-constexpr double kMediumSize = 12;
 constexpr double kStepOfSizes = 1.2;
 constexpr double kNaturalLineHeight = 1.2;
 
@@ -38,8 +37,8 @@ std::optional<Meaning> meaningOf(const WordRow<Meaning> (&rows)[count], const Cs
 }
 
 constexpr WordRow<double> kSizes[] = {
-    {u"xx-small", 0.6}, {u"x-small", 0.75}, {u"small", 8.0 / 9}, {u"medium", 1},    {u"initial", 1},
-    {u"large", 1.2},    {u"x-large", 1.5},  {u"xx-large", 2},    {u"xxx-large", 3},
+    {u"xx-small", 6.75}, {u"x-small", 7.5}, {u"small", 9.75},  {u"medium", 12},    {u"initial", 12},
+    {u"large", 13.5},    {u"x-large", 18},  {u"xx-large", 24}, {u"xxx-large", 36},
 };
 
 constexpr WordRow<HtmlDisplay> kDisplays[] = {
@@ -180,8 +179,8 @@ private:
             size *= length->number / 100;
         } else if (length != nullptr) {
             size = pointsOf(value).value_or(size);
-        } else if (const auto factor = meaningOf(kSizes, value)) {
-            size = kMediumSize * *factor;
+        } else if (const auto points = meaningOf(kSizes, value)) {
+            size = *points;
         } else if (word != nullptr && *word == u"larger") {
             size *= kStepOfSizes;
         } else if (word != nullptr && *word == u"smaller") {
@@ -257,8 +256,14 @@ private:
                 setPoints(look_.textIndent, value);
                 break;
             default:
-                if (!context_.isPageLayout) applyBox(property, value);
+                if (context_.box == HtmlBox::Block || isSpaceBehindList(property)) {
+                    applyBox(property, value);
+                }
         }
+    }
+
+    [[nodiscard]] bool isSpaceBehindList(CssProperty property) const {
+        return context_.box == HtmlBox::List && property == CssProperty::MarginBottom;
     }
 
     void applyLineHeight(const CssValue& value) {

@@ -54,13 +54,19 @@ struct HtmlLook : HtmlInheritedLook {
     double height = 0;
 };
 
+/// Elements by what the lengths around them do.
+enum class HtmlBox : std::uint8_t {
+    Block,  // they are those of its paragraphs
+    List,   // its items have indents of their own; only the space behind counts
+    Page,   // nothing: rich text has no page
+};
+
 /// What else the look of an element depends on.
 struct HtmlLookContext {
     /// The size of the outermost element's font.
     double rootFontSize = 12;
-    /// Whether lengths around the element are the layout of a page, of which
-    /// rich text has none.
-    bool isPageLayout = false;
+    /// What lengths around the element are.
+    HtmlBox box = HtmlBox::Block;
     /// Whether its background is that of a text and not of an area.
     bool isTextBlock = false;
 };

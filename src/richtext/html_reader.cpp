@@ -71,7 +71,8 @@ void HtmlReader::takeText(const String& text) {
 
 HtmlPlace HtmlReader::place() {
     const Element& element = open_.back();
-    return {open_[element.block].look, element.item};
+    Element& block = open_[element.block];
+    return {block.look, attributesOf(block), element.item};
 }
 
 const TextAttributes& HtmlReader::attributesOf(Element& element) {
@@ -128,7 +129,7 @@ void HtmlReader::takeVoid(const HtmlToken& tag) {
     if (look.isHidden) return;
     Element& around = open_.back();
     if (tag.text == u"br") {
-        text_.breakLine(place(), attributesOf(around));
+        text_.breakLine(place());
     } else if (tag.text == u"hr") {
         text_.endParagraph();
         text_.addText(kRule, HtmlSpace::Keep, place(), attributesOf(around));
@@ -175,11 +176,12 @@ HtmlLook HtmlReader::lookOf(const HtmlToken& tag) {
     const String* style = tag.find(u"style");
     const CssDeclarations own = style == nullptr ? CssDeclarations() : cssDeclarationsOf(*style);
     add(own);
-    const bool isLayout = isList(tag.text) || isOneOf(tag.text, {u"html", u"body"});
+    const bool isPage = isOneOf(tag.text, {u"html", u"body"});
+    const HtmlBox box = isPage ? HtmlBox::Page : isList(tag.text) ? HtmlBox::List : HtmlBox::Block;
     HtmlLook look =
         htmlLook(open_.empty() ? HtmlLook() : open_.back().look, declarations,
                  {.rootFontSize = open_.empty() ? kFontDefaultSize : open_.front().look.fontSize,
-                  .isPageLayout = isLayout,
+                  .box = box,
                   .isTextBlock = isTextBlock(tag.text)});
     const String* target = tag.text == u"a" ? tag.find(u"href") : nullptr;
     if (target != nullptr) {
@@ -217,7 +219,7 @@ void HtmlReader::openBlock(Element& element) {
 
 void HtmlReader::openList(Element& element) {
     if (element.item != nullptr && !element.item->isMarked) {
-        text_.addEmptyParagraph(place(), attributesOf(open_.back()));
+        text_.addEmptyParagraph(place());
     }
     HtmlList list{.isNumbered = element.tag.text == u"ol"};
     if (element.list != kNoList) {
@@ -262,10 +264,13 @@ void HtmlReader::closeInnermost() {
         const bool isUnmarked = element.item != nullptr && !element.item->isMarked &&
                                 element.look.display == HtmlDisplay::ListItem;
         if (isUnmarked || (!element.isShown && element.look.minHeight > 0)) {
-            text_.addEmptyParagraph(place(), attributesOf(element));
+            text_.addEmptyParagraph(place());
             element.isShown = true;
         }
         text_.endParagraph();
+    }
+    if (isBlock && isList(element.tag.text) && element.look.spaceAfter > 0 && element.isShown) {
+        text_.addSpaceAfter(element.look.spaceAfter);
     }
     const bool isShown = element.isShown;
     open_.pop_back();

@@ -47,18 +47,23 @@ private:
     std::uint32_t last_ = 0;
 };
 
-/// What an item and the paragraphs below it in the item need: one indent for
-/// all items of a list.
-void applyList(ParagraphStyle& style, const HtmlItem& item, const HtmlList& list,
-               const Font& font) {
-    const auto count = static_cast<std::size_t>(
-        std::max<std::int64_t>(static_cast<std::int64_t>(list.items), list.greatest));
-    const String sample = list.isNumbered ? widestItemNumber(count) : item.marker;
-    const double width = std::ceil(FontManager::shared().widthOfText(sample, font));
-    const ParagraphStyle before = style;
-    ItemIndents().apply(style, static_cast<double>(list.depth), width);
-    style.headIndent += before.headIndent;
-    for (TextTab& tab : style.tabStops) tab.location += before.headIndent;
+/// The room of the markers of a list: one for all of its items.
+double markerWidthOf(const HtmlList& list, const HtmlItem& item) {
+    constexpr std::size_t kMostItems = 99;  // numbers have no more digits than for so many
+    const auto greatest = static_cast<std::size_t>(list.greatest);
+    const String sample =
+        list.isNumbered ? widestItemNumber(std::min(std::max(list.items, greatest), kMostItems))
+                        : item.marker;
+    const Font* font = item.attributes.font();
+    return std::ceil(FontManager::shared().widthOfText(sample, font == nullptr ? Font{} : *font));
+}
+
+/// What an item and the paragraphs below it in the item need.
+void applyList(ParagraphStyle& style, const HtmlList& list, double markerWidth) {
+    const double indent = style.headIndent;
+    ItemIndents().apply(style, static_cast<double>(list.depth), markerWidth);
+    style.headIndent += indent;
+    for (TextTab& tab : style.tabStops) tab.location += indent;
     style.textLists = list.around;
 }
 
@@ -69,12 +74,12 @@ void HtmlText::append(StringView text, std::uint32_t id) {
     appendRun(runs_, static_cast<std::uint32_t>(text_.size()), id);
 }
 
-void HtmlText::open(const HtmlPlace& place, std::uint32_t id) {
+void HtmlText::open(const HtmlPlace& place) {
     if (!paragraphs_.empty()) {
-        append(u"\n", runs_.empty() ? id : runs_.back().id);
+        append(u"\n", endId_);
         paragraphs_.back().end = static_cast<std::uint32_t>(text_.size());
     }
-    if (paragraphs_.empty()) firstId_ = id;
+    endId_ = palette_.idOf(place.attributes);
     paragraphs_.push_back({0, paragraphStyleOf(place.block), place.item});
     isOpen_ = isLineStart_ = true;
     hasSpace_ = false;
@@ -88,8 +93,8 @@ void HtmlText::open(const HtmlPlace& place, std::uint32_t id) {
 
 /// Splits at a line end that white space keeps: the space around the block
 /// stands around its first and its last line.
-void HtmlText::splitParagraph(std::uint32_t id) {
-    append(u"\n", id);
+void HtmlText::splitParagraph() {
+    append(u"\n", endId_);
     Paragraph next = paragraphs_.back();
     paragraphs_.back().end = static_cast<std::uint32_t>(text_.size());
     paragraphs_.back().style.paragraphSpacing = 0;
@@ -100,7 +105,7 @@ void HtmlText::splitParagraph(std::uint32_t id) {
 void HtmlText::writeLineEnds(std::size_t count, std::uint32_t id) {
     for (const char16_t end : StringView(lineEnds_).substr(0, count)) {
         if (end == u'\n') {
-            splitParagraph(id);
+            splitParagraph();
         } else {
             append(StringView(&end, 1), id);
         }
@@ -110,7 +115,7 @@ void HtmlText::writeLineEnds(std::size_t count, std::uint32_t id) {
 
 /// What was put off until there is more to show.
 void HtmlText::writePending(const HtmlPlace& place, std::uint32_t id) {
-    if (!isOpen_) open(place, id);
+    if (!isOpen_) open(place);
     writeLineEnds(lineEnds_.size(), id);
     append(String(std::exchange(tabs_, 0), u'\t'), id);
     if (std::exchange(hasSpace_, false)) append(u" ", spaceId_);
@@ -134,7 +139,7 @@ void HtmlText::addKept(StringView text, const HtmlPlace& place, std::uint32_t id
             writePending(place, id);
             append(text.substr(0, end), id);
         }
-        if (end < text.size()) addLineEnd(u'\n', place, id);
+        if (end < text.size()) addLineEnd(u'\n', place);
         text.remove_prefix(std::min(end + 1, text.size()));
     }
 }
@@ -153,7 +158,7 @@ void HtmlText::addCollapsed(StringView text, bool keepsLines, const HtmlPlace& p
         const auto ends = std::ranges::count(text.substr(0, blanks), u'\n');
         text.remove_prefix(blanks);
         if (keepsLines && ends > 0) {
-            for (auto i = ends; i > 0; --i) addLineEnd(u'\n', place, id);
+            for (auto i = ends; i > 0; --i) addLineEnd(u'\n', place);
         } else if (isOpen_ && !isLineStart_ && !hasSpace_) {
             hasSpace_ = true;
             spaceId_ = id;
@@ -161,16 +166,14 @@ void HtmlText::addCollapsed(StringView text, bool keepsLines, const HtmlPlace& p
     }
 }
 
-void HtmlText::addLineEnd(char16_t end, const HtmlPlace& place, std::uint32_t id) {
-    if (!isOpen_) open(place, id);
+void HtmlText::addLineEnd(char16_t end, const HtmlPlace& place) {
+    if (!isOpen_) open(place);
     lineEnds_ += end;
     hasSpace_ = false;
     isLineStart_ = true;
 }
 
-void HtmlText::breakLine(const HtmlPlace& place, const TextAttributes& attributes) {
-    addLineEnd(kLineSeparator, place, palette_.idOf(attributes));
-}
+void HtmlText::breakLine(const HtmlPlace& place) { addLineEnd(kLineSeparator, place); }
 
 void HtmlText::addAttachment(const HtmlPlace& place, const TextAttributes& attributes) {
     const std::uint32_t id = palette_.idOf(attributes);
@@ -182,15 +185,22 @@ void HtmlText::addAttachment(const HtmlPlace& place, const TextAttributes& attri
 void HtmlText::endParagraph() {
     if (tabs_ > 0 || !isOpen_) return;
     if (!lineEnds_.empty()) {
-        writeLineEnds(lineEnds_.size() - 1, runs_.empty() ? 0 : runs_.back().id);
+        writeLineEnds(lineEnds_.size() - 1, endId_);
     }
     isOpen_ = hasSpace_ = false;
     isLineStart_ = true;
 }
 
-void HtmlText::addEmptyParagraph(const HtmlPlace& place, const TextAttributes& attributes) {
+void HtmlText::addSpaceAfter(double points) {
     endParagraph();
-    open(place, palette_.idOf(attributes));
+    if (paragraphs_.empty()) return;
+    double& space = paragraphs_.back().style.paragraphSpacing;
+    space = std::max(space, points);
+}
+
+void HtmlText::addEmptyParagraph(const HtmlPlace& place) {
+    endParagraph();
+    open(place);
     endParagraph();
 }
 
@@ -221,12 +231,15 @@ FlatText HtmlText::inParagraphStyles(const std::vector<HtmlList>& lists,
     FlatText flat;
     StyleNumbers styles;
     std::unordered_map<std::uint64_t, std::uint32_t> ids;  // by style and attributes
+    std::unordered_map<std::size_t, double> markerWidths;  // by list
     std::uint32_t start = 0;
     std::size_t run = 0;
     for (Paragraph& paragraph : paragraphs_) {
         if (const HtmlItem* item = paragraph.item) {
-            const Font* font = item->attributes.font();
-            applyList(paragraph.style, *item, lists[item->list], font == nullptr ? Font{} : *font);
+            const HtmlList& list = lists[item->list];
+            double& width = markerWidths.try_emplace(item->list, -1.0).first->second;
+            if (width < 0) width = markerWidthOf(list, *item);
+            applyList(paragraph.style, list, width);
         }
         const std::uint64_t style = styles.numberOf(paragraph.style);
         for (; start < paragraph.end; start = std::min(runs_[run].end, paragraph.end)) {
@@ -251,7 +264,7 @@ RichText HtmlText::take(const std::vector<HtmlList>& lists) {
         // Without an end of its own an empty paragraph would not be one.
         const std::size_t start =
             paragraphs_.size() > 1 ? paragraphs_[paragraphs_.size() - 2].end : 0;
-        if (text_.size() == start) append(u"\n", runs_.empty() ? firstId_ : runs_.back().id);
+        if (text_.size() == start) append(u"\n", endId_);
         paragraphs_.back().end = static_cast<std::uint32_t>(text_.size());
     }
     AttributePalette palette;

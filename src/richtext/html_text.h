@@ -38,6 +38,8 @@ struct HtmlItem {
 struct HtmlPlace {
     /// The look of the block around it.
     const HtmlLook& block;
+    /// The attributes of that look.
+    const TextAttributes& attributes;
     /// The item around it, or null.
     HtmlItem* item = nullptr;
 };
@@ -50,7 +52,9 @@ public:
     /// What follows stands in a paragraph of its own.
     void endParagraph();
     /// A paragraph without text.
-    void addEmptyParagraph(const HtmlPlace& place, const TextAttributes& attributes);
+    void addEmptyParagraph(const HtmlPlace& place);
+    /// The last paragraph has at least so much space behind it.
+    void addSpaceAfter(double points);
     /// A line of cells starts; what follows until it ends is its first cell.
     void startRow();
     /// The next cell of the row.
@@ -65,7 +69,7 @@ public:
     /// Adds the character of an attachment.
     void addAttachment(const HtmlPlace& place, const TextAttributes& attributes);
     /// The rest of the paragraph stands on a line of its own.
-    void breakLine(const HtmlPlace& place, const TextAttributes& attributes);
+    void breakLine(const HtmlPlace& place);
 
     /// The whole text. Items stand behind markers as wide as their `lists` need.
     [[nodiscard]] RichText take(const std::vector<HtmlList>& lists);
@@ -79,10 +83,10 @@ private:
 
     void addKept(StringView text, const HtmlPlace& place, std::uint32_t id);
     void addCollapsed(StringView text, bool keepsLines, const HtmlPlace& place, std::uint32_t id);
-    void addLineEnd(char16_t end, const HtmlPlace& place, std::uint32_t id);
-    void open(const HtmlPlace& place, std::uint32_t id);
+    void addLineEnd(char16_t end, const HtmlPlace& place);
+    void open(const HtmlPlace& place);
     void writePending(const HtmlPlace& place, std::uint32_t id);
-    void splitParagraph(std::uint32_t id);
+    void splitParagraph();
     void append(StringView text, std::uint32_t id);
     void writeLineEnds(std::size_t count, std::uint32_t id);
     [[nodiscard]] FlatText inParagraphStyles(const std::vector<HtmlList>& lists,
@@ -96,9 +100,9 @@ private:
     bool isLineStart_ = true;  // white space shows nothing here
     bool hasSpace_ = false;    // to be added before more text of the line
     std::uint32_t spaceId_ = 0;
-    std::uint32_t firstId_ = 0;  // of the first paragraph
-    String lineEnds_;            // to be added before more text of the paragraph
-    std::size_t tabs_ = 0;       // likewise
+    std::uint32_t endId_ = 0;  // of the end of the last paragraph
+    String lineEnds_;          // to be added before more text of the paragraph
+    std::size_t tabs_ = 0;     // likewise
     bool isInRow_ = false;
     bool isFirstCell_ = true;   // the next one
     std::size_t rowStart_ = 0;  // the number of its first paragraph

@@ -130,6 +130,17 @@ private:
         return index + 1 < blocks.size() && blocks[index].isQuoted && blocks[index + 1].isQuoted;
     }
 
+    /// The traits that runs of the block do not add, since it has them.
+    [[nodiscard]] String cssOfTraits(const Block& block, const TextAttributes& look) const {
+        if (look.font() == nullptr) return {};
+        const std::uint32_t added = look.font()->traits & ~base_.font()->traits;
+        String css;
+        if ((added & kFontItalic) != 0) css += u"font-style:italic;";
+        const bool isHeading = block.kind == BlockKind::Heading;
+        if ((added & kFontBold) != 0 && !isHeading) css += u"font-weight:bold;";
+        return css;
+    }
+
     [[nodiscard]] String styleOf(std::size_t index, const TextAttributes& look) {
         const Block& block = blocks_.blocks[index];
         const TextAttributes first = firstAttributesOf(block);
@@ -138,6 +149,7 @@ private:
         // A page says these for all of its blocks.
         if (isFragment()) css += u"margin:0;white-space:pre-wrap;";
         css += runs_.css(look, base_);
+        css += cssOfTraits(block, look);
         if (first.paragraphStyle() == nullptr) return css;
         ParagraphStyle style = *first.paragraphStyle();
         // The list around an item indents it.
@@ -149,6 +161,15 @@ private:
         return css + cssOfParagraph(style, size);
     }
 
+    /// Whether the marker of the item would stand beside the paragraph below it.
+    [[nodiscard]] bool isEmptyAbovePart(std::size_t index) const {
+        const std::vector<Block>& blocks = blocks_.blocks;
+        const bool isEmptyItem =
+            blocks[index].kind == BlockKind::Item && blocks_.lineOf(blocks[index]).length == 0;
+        return isEmptyItem && index + 1 < blocks.size() && blocks[index + 1].isInList &&
+               blocks[index + 1].kind != BlockKind::Item;
+    }
+
     void writeBlock(std::size_t index) {
         const Block& block = blocks_.blocks[index];
         containers_.enter(block);
@@ -156,16 +177,27 @@ private:
         const String style = styleOf(index, look);
         const std::string name = elementOf(block, style);
         if (!name.empty()) out_ += "<" + name + markupAttribute("style", style) + ">";
-        const bool isPageCode = block.kind == BlockKind::Code && !isFragment();
-        if (isPageCode) out_ += "<code>";
+        block.kind == BlockKind::Code ? writeCode(block, look) : writeLine(block, look);
+        if (isEmptyAbovePart(index)) out_ += "<br>";
+        if (!name.empty()) out_ += "</" + name + ">";
+        if (!block.isInList || block.isQuoted) out_ += "\n";
+    }
+
+    void writeLine(const Block& block, const TextAttributes& look) {
+        const Range line = blocks_.lineOf(block);
+        runs_.write(line, look);
+        if (isFragment() && line.length == 0) out_ += "<br>";
+    }
+
+    /// Readers drop a line feed behind the tag, and one at the end.
+    void writeCode(const Block& block, const TextAttributes& look) {
+        out_ += isFragment() ? "\n" : "<code>";
         for (std::size_t i = block.first; i < block.end; ++i) {
             if (i > block.first) out_ += "\n";
             runs_.write(blocks_.lines[i], look);
         }
-        if (isPageCode) out_ += "</code>";
-        if (isFragment() && blocks_.lines[block.end - 1].length == 0) out_ += "<br>";
-        if (!name.empty()) out_ += "</" + name + ">";
-        if (!block.isInList || block.isQuoted) out_ += "\n";
+        if (blocks_.lines[block.end - 1].length == 0) out_ += "\n";
+        if (!isFragment()) out_ += "</code>";
     }
 
     const RichText& text_;

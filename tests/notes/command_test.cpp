@@ -68,6 +68,13 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
         {"printf '**a**' | qznote render --to rtf | grep -c '^{.rtf1'", 0, "1\n"},
         {"printf 'a' | qznote render -o a.rtf; head -c 6 a.rtf", 0, "{\\rtf1"},
         {"printf 'a' > a.md; qznote outline a.md", 0, ""},
+        {"printf '# a\\n\\n- *b*\\n\\t1. __c__\\n\\n\\n> d\\n' | qznote convert --to html | "
+         "qznote convert --from html --to markdown",
+         0, "# a\n\n- *b*\n    1. __c__\n\n\n> d"},
+        {"printf '<p>a<p>b' > a.html; qznote convert a.html -o a.txt; cat a.txt", 0, "a\nb"},
+        {"printf '<p>a' > a.html; qznote render a.html", 0, "<p>a"},
+        {"qznote render --from html", 2, "qznote: unknown option --from" + seeHelp},
+        {"qznote convert --from ansi", 2, "qznote: unknown format ansi" + seeHelp},
         {"qznote outline no-such-note.md", 1, "qznote: cannot read no-such-note.md\n"},
         {"echo '- a' | qznote outline > /dev/full", 1, "qznote: cannot write the output\n"},
         {"qznote outline --to html", 2, "qznote: unknown option --to" + seeHelp},

@@ -41,7 +41,7 @@ TEST_CASE("the example notes render as their files of runs show") {
         const RichText text = qznote::renderedNote(qznote::noteText(*note), {});
         CHECK(qznote::runLines(text) == textOf(*expected));
         const std::string page =
-            toUTF8(htmlFromRichText(text, {.title = u"Note", .base = qznote::baseAttributes({}))});
+            toUTF8(htmlFromRichText(text, {.title = u"Note", .base = qznote::baseAttributes({})}));
         CHECK(testing::PageReader::read(page).fault == "");
         ++count;
     }

@@ -67,6 +67,8 @@ private:
             const std::string name = takeName();
             if (open_.empty() || open_.back() != name) return fail("closed out of order: " + name);
             open_.pop_back();
+            // A line end at the end of code starts no further line.
+            if (name == "code" && reading_.text.ends_with('\n')) reading_.text.pop_back();
             if (isList(name)) lists_.pop_back();
             if (!skip(">")) fail("tag without an end");
         } else if (skip("<")) {

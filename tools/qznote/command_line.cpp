@@ -18,30 +18,26 @@ struct ActionName {
 };
 
 constexpr ActionName kActions[] = {
-    {"render", Command::Action::Render},   {"detect", Command::Action::Detect},
-    {"outline", Command::Action::Outline}, {"path", Command::Action::MeasurePath},
-    {"digest", Command::Action::Digest},   {"seal", Command::Action::Seal},
-    {"open", Command::Action::Open},       {"palette", Command::Action::Palette},
+    {"render", Command::Action::Render},    {"convert", Command::Action::Convert},
+    {"detect", Command::Action::Detect},    {"outline", Command::Action::Outline},
+    {"path", Command::Action::MeasurePath}, {"digest", Command::Action::Digest},
+    {"seal", Command::Action::Seal},        {"open", Command::Action::Open},
+    {"palette", Command::Action::Palette},
 };
 
 struct FormatName {
     Command::Action action;
     std::string_view name;
-    OutputFormat format;
+    ResultFormat format;
 };
 
 constexpr FormatName kFormats[] = {
-    {Command::Action::Render, "html", OutputFormat::Html},
-    {Command::Action::Render, "rtf", OutputFormat::Rtf},
-    {Command::Action::Render, "ansi", OutputFormat::Ansi},
-    {Command::Action::Render, "text", OutputFormat::Text},
-    {Command::Action::Render, "runs", OutputFormat::Runs},
-    {Command::Action::MeasurePath, "report", OutputFormat::Report},
-    {Command::Action::MeasurePath, "data", OutputFormat::PathData},
-    {Command::Action::MeasurePath, "svg", OutputFormat::Svg},
-    {Command::Action::Palette, "html", OutputFormat::Html},
-    {Command::Action::Palette, "ansi", OutputFormat::Ansi},
-    {Command::Action::Palette, "text", OutputFormat::Text},
+    {Command::Action::MeasurePath, "report", ResultFormat::Report},
+    {Command::Action::MeasurePath, "data", ResultFormat::PathData},
+    {Command::Action::MeasurePath, "svg", ResultFormat::Svg},
+    {Command::Action::Palette, "html", ResultFormat::Html},
+    {Command::Action::Palette, "ansi", ResultFormat::Ansi},
+    {Command::Action::Palette, "text", ResultFormat::Text},
 };
 
 struct Option {
@@ -51,21 +47,16 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {Command::Action::Render, "--to", 1},
-    {Command::Action::Render, "-o", 1},
-    {Command::Action::Render, "--style", 1},
-    {Command::Action::Render, "--images", 0},
-    {Command::Action::MeasurePath, "--to", 1},
-    {Command::Action::MeasurePath, "-o", 1},
-    {Command::Action::MeasurePath, "--trim", 2},
-    {Command::Action::MeasurePath, "--fit", 1},
-    {Command::Action::MeasurePath, "--smooth", 0},
-    {Command::Action::Palette, "--to", 1},
-    {Command::Action::Palette, "-o", 1},
-    {Command::Action::Palette, "--shade", 1},
-    {Command::Action::Seal, "-o", 1},
-    {Command::Action::Seal, "--password-fd", 1},
-    {Command::Action::Open, "-o", 1},
+    {Command::Action::Render, "--to", 1},        {Command::Action::Render, "-o", 1},
+    {Command::Action::Render, "--style", 1},     {Command::Action::Render, "--images", 0},
+    {Command::Action::Convert, "--from", 1},     {Command::Action::Convert, "--to", 1},
+    {Command::Action::Convert, "-o", 1},         {Command::Action::Convert, "--style", 1},
+    {Command::Action::Convert, "--images", 0},   {Command::Action::MeasurePath, "--to", 1},
+    {Command::Action::MeasurePath, "-o", 1},     {Command::Action::MeasurePath, "--trim", 2},
+    {Command::Action::MeasurePath, "--fit", 1},  {Command::Action::MeasurePath, "--smooth", 0},
+    {Command::Action::Palette, "--to", 1},       {Command::Action::Palette, "-o", 1},
+    {Command::Action::Palette, "--shade", 1},    {Command::Action::Seal, "-o", 1},
+    {Command::Action::Seal, "--password-fd", 1}, {Command::Action::Open, "-o", 1},
     {Command::Action::Open, "--password-fd", 1},
 };
 
@@ -87,6 +78,16 @@ std::optional<int> descriptorOf(std::string_view digits) {
     const auto [at, error] = std::from_chars(digits.data(), end, number);
     if (error != std::errc() || at != end || number < 0) return std::nullopt;
     return number;
+}
+
+/// The forms that notes are written in, one a line.
+std::string explainedFormats() {
+    std::string lines;
+    for (const OutputFormat& format : outputFormats()) {
+        lines += lines.empty() ? "  --to FORMAT    " : "                 ";
+        lines += std::string(format.name) + ": " + std::string(format.explanation) + "\n";
+    }
+    return lines;
 }
 
 /// Reads the arguments from left to right.
@@ -173,6 +174,7 @@ private:
         if (name == "--images") command_.fetchesImages = true;
         if (name == "--style") command_.styleSheet = values[0];
         if (name == "-o") command_.output = values[0];
+        if (name == "--from") setFormat(command_.from, inputFormats(), values[0]);
         if (name == "--to") setFormat(values[0]);
         if (name == "--trim") setPart(values[0], values[1]);
         if (name == "--fit") setFit(values[0]);
@@ -198,15 +200,27 @@ private:
         command_.part = Part{start.value_or(0), end.value_or(0)};
     }
 
+    bool readsNotes() const {
+        return command_.action == Command::Action::Render ||
+               command_.action == Command::Action::Convert;
+    }
+
     void setFormat(std::string_view name) {
+        if (readsNotes()) return setFormat(command_.to, outputFormats(), name);
         const auto* known = std::ranges::find_if(kFormats, [&](const FormatName& format) {
             return format.action == command_.action && format.name == name;
         });
         if (known == std::end(kFormats)) {
             fault_ = "unknown format " + std::string(name);
         } else {
-            command_.format = known->format;
+            command_.resultFormat = known->format;
         }
+    }
+
+    template <class Format>
+    void setFormat(const Format*& format, std::span<const Format> known, std::string_view name) {
+        format = formatNamed(known, name);
+        if (format == nullptr) fault_ = "unknown format " + std::string(name);
     }
 
     std::span<const char* const> rest_;
@@ -226,6 +240,7 @@ std::string helpText() {
     return R"(qznote shows notes that are written in Markdown, and paths.
 
   qznote render [NOTE.md] [--to FORMAT] [-o FILE] [--style SHEET] [--images]
+  qznote convert [NOTE] [--from FORMAT] and the options of render
   qznote detect [NOTE.md]
   qznote outline [NOTE.md]
   qznote path [DATA.txt] [--fit DISTANCE] [--smooth] [--trim FROM TO]
@@ -241,18 +256,17 @@ input is read. Lists may be indented by tabs or by 2, 3 or 4 blanks a level, as
 the note shows, and fences around code may name its language.
 
 render writes the note with its Markdown carried out:
-  --to FORMAT    html: a page that needs no other file
-                 rtf: a document for word processors
-                 ansi: text with colours and links for a terminal
-                 text: text alone
-                 runs: every stretch of text with its attributes, one a line
-                 Without it, html for a FILE that ends in .html or .htm, rtf for
-                 one that ends in .rtf, else ansi when it is shown in a terminal,
-                 else text.
+)" + explainedFormats() +
+           R"(                 Without it what the ending of FILE says, else ansi when it is
+                 shown in a terminal, else text.
   -o FILE        writes to FILE, whole or not at all; "-" is the standard output
   --style SHEET  a style sheet, as a property list or in JSON
   --images       fetches images from http, https and file addresses; without it
                  nothing is fetched, and a warning sign stands for each image
+
+convert writes a note that may be in Markdown, HTML or RTF:
+  --from FORMAT  markdown, html or rtf; without it what the ending of NOTE says, else
+                 markdown. Of HTML nothing is fetched.
 
 detect tells which constructs the note contains, with how many there are of
 each, and whether all of it is a list, a table or a task outline.

@@ -6,10 +6,12 @@
 #include <string>
 #include <variant>
 
+#include "formats.h"
+
 namespace qznote {
 
-/// The forms that a note is written in, and those of a path.
-enum class OutputFormat { Html, Rtf, Ansi, Text, Runs, Report, PathData, Svg };
+/// The forms of what is no note: paths and swatches.
+enum class ResultFormat { Report, PathData, Svg, Html, Ansi, Text };
 
 /// A part of a path, between two lengths along it.
 struct Part {
@@ -21,6 +23,7 @@ struct Part {
 struct Command {
     enum class Action {
         Render,
+        Convert,
         Detect,
         Outline,
         MeasurePath,
@@ -39,8 +42,11 @@ struct Command {
     std::string styleSheet{};
     /// Where the result goes; "-" is the standard output.
     std::string output = "-";
-    /// What was asked for, if anything.
-    std::optional<OutputFormat> format{};
+    /// What was asked for; null when nothing was.
+    const InputFormat* from = nullptr;
+    const OutputFormat* to = nullptr;
+    /// The same of what is no note.
+    std::optional<ResultFormat> resultFormat{};
     /// Whether images are fetched.
     bool fetchesImages = false;
     /// The largest distance from the path's points to a curve fitted to them.

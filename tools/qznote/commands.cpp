@@ -10,18 +10,14 @@
 #include "QZCore/codecs/envelopes.h"
 #include "QZCore/foundation/log.h"
 #include "QZCore/platform/url_loading.h"
-#include "ansi_writer.h"
 #include "command_line.h"
 #include "detection_report.h"
 #include "digest_report.h"
-#include "QZCore/richtext/html.h"
 #include "note.h"
 #include "outline_report.h"
 #include "palette_writer.h"
 #include "password.h"
 #include "path_report.h"
-#include "runs_writer.h"
-#include "stand_ins.h"
 #include "streams.h"
 #include "style_sheet_file.h"
 #include "svg_drawing.h"
@@ -59,17 +55,31 @@ std::string nameOf(const std::string& file) {
     return file == kStandardStream ? "the standard input" : file;
 }
 
-OutputFormat formatOf(const Command& command) {
-    if (command.format) return *command.format;
+ResultFormat resultFormatOf(const Command& command) {
+    if (command.resultFormat) return *command.resultFormat;
     if (command.action == Command::Action::MeasurePath) {
-        return command.output.ends_with(".svg") ? OutputFormat::Svg : OutputFormat::Report;
+        return command.output.ends_with(".svg") ? ResultFormat::Svg : ResultFormat::Report;
     }
     if (command.output.ends_with(".html") || command.output.ends_with(".htm")) {
-        return OutputFormat::Html;
+        return ResultFormat::Html;
     }
-    if (command.output.ends_with(".rtf")) return OutputFormat::Rtf;
     const bool isShown = command.output == kStandardStream && ::isatty(STDOUT_FILENO) == 1;
-    return isShown ? OutputFormat::Ansi : OutputFormat::Text;
+    return isShown ? ResultFormat::Ansi : ResultFormat::Text;
+}
+
+const OutputFormat& outputFormatOf(const Command& command) {
+    if (command.to != nullptr) return *command.to;
+    if (const auto* format = formatOfFile(outputFormats(), command.output)) return *format;
+    const bool isShown = command.output == kStandardStream && ::isatty(STDOUT_FILENO) == 1;
+    return *formatNamed(outputFormats(), isShown ? "ansi" : "text");
+}
+
+/// What is rendered is Markdown, whatever its file is called.
+const InputFormat& inputFormatOf(const Command& command) {
+    if (command.from != nullptr) return *command.from;
+    const auto* format = formatOfFile(inputFormats(), command.input);
+    const bool isFree = command.action == Command::Action::Convert && format != nullptr;
+    return isFree ? *format : inputFormats().front();
 }
 
 /// The name of the note's file without its folder and extension.
@@ -79,23 +89,6 @@ String titleOf(const Command& command) {
     name.remove_prefix(name.rfind('/') + 1);
     const std::size_t dot = name.rfind('.');
     return fromUTF8(dot == 0 ? name : name.substr(0, dot));
-}
-
-std::string written(const RichText& text, const StyleSheet& styles, const Command& command) {
-    switch (formatOf(command)) {
-        case OutputFormat::Html:
-            return toUTF8(htmlFromRichText(
-                text, {.title = titleOf(command), .base = baseAttributes(styles)}));
-        case OutputFormat::Rtf:
-            return std::string(textOf(text.RTF()));
-        case OutputFormat::Ansi:
-            return ansiText(text, baseAttributes(styles));
-        case OutputFormat::Runs:
-            return runLines(text);
-        default:
-            break;
-    }
-    return toUTF8(plainText(text, {0, text.length()}));
 }
 
 int render(const Command& command, const Data& note) {
@@ -108,8 +101,10 @@ int render(const Command& command, const Data& note) {
         styles = *sheet;
     }
     if (!command.fetchesImages) setSharedUrlLoader(makeRefusingUrlLoader());
-    const RichText text = renderedNote(noteText(note), styles);
-    return output(command.output, written(text, styles, command));
+    const auto text = inputFormatOf(command).read(note, styles);
+    if (!text) return failure("cannot read " + nameOf(command.input));
+    const Writing writing{.title = titleOf(command), .base = baseAttributes(styles)};
+    return output(command.output, outputFormatOf(command).write(*text, writing));
 }
 
 int outline(const Data& note) {
@@ -117,11 +112,11 @@ int outline(const Data& note) {
     return output("-", outlineReport(renderedNote(noteText(note), {}), baseAttributes({})));
 }
 
-std::string written(const BezierPath& path, const BezierPath& whole, OutputFormat format) {
+std::string written(const BezierPath& path, const BezierPath& whole, ResultFormat format) {
     switch (format) {
-        case OutputFormat::PathData:
+        case ResultFormat::PathData:
             return toUTF8(svgPathData(path)) + "\n";
-        case OutputFormat::Svg:
+        case ResultFormat::Svg:
             return svgDrawing(path, whole);
         default:
             return pathReport(path);
@@ -140,14 +135,14 @@ int measurePath(const Command& command, const Data& data) {
     const String text = fromUTF8(textOf(data));
     const auto [whole, length] = readSvgPathData(text);
     const BezierPath path = changedPath(command, whole);
-    const int code = output(command.output, written(path, whole, formatOf(command)));
+    const int code = output(command.output, written(path, whole, resultFormatOf(command)));
     if (length == text.size()) return code;
     return failure(nameOf(command.input) + " is no path data from character " +
                    std::to_string(length + 1) + " on");
 }
 
 int palette(const Command& command) {
-    const auto swatches = paletteSwatches(command.shade, formatOf(command));
+    const auto swatches = paletteSwatches(command.shade, resultFormatOf(command));
     if (!swatches) return failure("there is no shade " + command.shade);
     return output(command.output, *swatches);
 }

@@ -46,20 +46,20 @@ std::string codeOf(std::string_view plane, const Color& color) {
            std::to_string(bytes.green) + ";" + std::to_string(bytes.blue);
 }
 
-std::string swatch(const Color& color, OutputFormat format) {
+std::string swatch(const Color& color, ResultFormat format) {
     const std::string digits = digitsOf(color);
     const Color label = color.appropriateLabelColor();
-    if (format == OutputFormat::Html) {
+    if (format == ResultFormat::Html) {
         return "<td style=\"background:" + digits + ";color:" + digitsOf(label) + "\">" + digits +
                "</td>";
     }
-    if (format == OutputFormat::Text) return " " + digits;
+    if (format == ResultFormat::Text) return " " + digits;
     return "\x1b[" + codeOf("48", color) + ";" + codeOf("38", label) + "m " + digits + " \x1b[0m";
 }
 
-std::string line(const MaterialShade& shade, OutputFormat format) {
+std::string line(const MaterialShade& shade, ResultFormat format) {
     const std::string key = toUTF8(shade.key);
-    const bool isHtml = format == OutputFormat::Html;
+    const bool isHtml = format == ResultFormat::Html;
     constexpr std::size_t kLongestKey = 4;
     std::string text = isHtml ? "<tr><th>" + key + "</th>"
                               : std::string(kLongestKey - key.size(), ' ') + key + " ";
@@ -69,13 +69,13 @@ std::string line(const MaterialShade& shade, OutputFormat format) {
 
 }  // namespace
 
-std::optional<std::string> paletteSwatches(std::string_view shade, OutputFormat format) {
+std::optional<std::string> paletteSwatches(std::string_view shade, ResultFormat format) {
     std::string lines;
     for (const MaterialShade& row : Color::sharedMaterialColors()) {
         if (shade.empty() || toUTF8(row.key) == shade) lines += line(row, format);
     }
     if (lines.empty()) return std::nullopt;
-    if (format != OutputFormat::Html) return lines;
+    if (format != ResultFormat::Html) return lines;
     return std::string(kPageStart) + lines + std::string(kPageEnd);
 }
 

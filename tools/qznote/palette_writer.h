@@ -8,9 +8,9 @@
 
 namespace qznote {
 
-/// The swatches of a shade, or of all shades for an empty one, in a form other
-/// than runs; nothing when there is no such shade.
+/// The swatches of a shade, or of all shades for an empty one, as HTML, for
+/// a terminal or as text; nothing when there is no such shade.
 [[nodiscard]] std::optional<std::string> paletteSwatches(std::string_view shade,
-                                                         OutputFormat format);
+                                                         ResultFormat format);
 
 }  // namespace qznote

@@ -26,6 +26,16 @@ String plainText(const RichText& text, Range range) {
     return plain;
 }
 
+RichText withLineFeeds(const RichText& text) {
+    constexpr char16_t kLineSeparator = u'\u2028';
+    const String units = text.string();
+    RichText lines = text;
+    for (std::size_t at = 0; (at = units.find(kLineSeparator, at)) != units.npos; ++at) {
+        lines.replaceCharactersInRange({at, 1}, u"\n");
+    }
+    return lines;
+}
+
 String withVisibleControls(StringView text) {
     constexpr char16_t kSymbols = 0x2400;
     constexpr char16_t kDelete = 0x7F;

@@ -14,6 +14,10 @@ namespace qznote {
 /// The text in `range` with its images named.
 [[nodiscard]] QZCore::String plainText(const QZCore::RichText& text, QZCore::Range range);
 
+/// `text` with line feeds in place of line separators, for what has no other
+/// line ends.
+[[nodiscard]] QZCore::RichText withLineFeeds(const QZCore::RichText& text);
+
 /// `text` with control characters other than the tab as the symbols that stand
 /// for them, so that it cannot steer a terminal.
 [[nodiscard]] QZCore::String withVisibleControls(QZCore::StringView text);

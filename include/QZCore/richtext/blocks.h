@@ -30,7 +30,7 @@ struct Block {
     /// Whether it is a part of a quotation.
     bool isQuoted = false;
     /// Whether it is an item, or stands below the last item without an empty
-    /// line between them and so belongs to it.
+    /// line or space between them and so belongs to it.
     bool isInList = false;
     /// The index of its first line.
     std::size_t first = 0;
