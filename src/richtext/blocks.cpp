@@ -39,6 +39,14 @@ bool continues(const Block& last, const Block& block) {
            last.isQuoted == block.isQuoted && last.isInList == block.isInList;
 }
 
+/// Whether both lines have one paragraph style.
+bool haveOneStyle(const RichText& text, Range a, Range b) {
+    const auto styleOf = [&](Range line) {
+        return text.attributesAtIndex(line.location).objectForKey(NSParagraphStyleAttributeName);
+    };
+    return styleOf(a) == styleOf(b);
+}
+
 }  // namespace
 
 BlockClassifier::BlockClassifier(const TextAttributes& base) : base_(base) {}
@@ -111,7 +119,8 @@ Blocks BlockClassifier::blocksOf(const RichText& text) {
         block.isInList = inList;
         block.first = i;
         block.end = i + 1;
-        const bool goesOn = !blocks.empty() && continues(blocks.back(), block);
+        const bool goesOn = !blocks.empty() && continues(blocks.back(), block) &&
+                            haveOneStyle(text, lines[blocks.back().first], lines[i]);
         if (inList && block.kind != BlockKind::Item) {
             const std::size_t blanks = indentationOf(text, lines[i]);
             if (!goesOn) indentation = blanks;
