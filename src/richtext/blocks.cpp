@@ -52,9 +52,12 @@ bool haveOneStyle(const RichText& text, Range a, Range b) {
 BlockClassifier::BlockClassifier(const TextAttributes& base) : base_(base) {}
 
 bool BlockClassifier::isFixedWidth(const Font& font) {
-    const auto [at, isNew] = fixedWidths_.try_emplace(font.familyName);
-    if (isNew) at->second = fonts_.widthOfText(u"ii", font) == fonts_.widthOfText(u"MM", font);
-    return at->second;
+    using Known = std::pair<String, bool>;
+    const auto known = std::ranges::find(fixedWidths_, font.familyName, &Known::first);
+    if (known != fixedWidths_.end()) return known->second;
+    const bool isFixed = fonts_.widthOfText(u"ii", font) == fonts_.widthOfText(u"MM", font);
+    fixedWidths_.emplace_back(font.familyName, isFixed);
+    return isFixed;
 }
 
 bool BlockClassifier::isCode(const TextAttributes& attributes) {

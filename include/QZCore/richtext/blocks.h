@@ -5,7 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
+#include <utility>
 #include <vector>
 
 #include "QZCore/export.h"
@@ -74,7 +74,7 @@ private:
 
     TextAttributes base_;
     FontManager fonts_ = FontManager::shared();
-    std::map<String, bool> fixedWidths_;  // by family
+    std::vector<std::pair<String, bool>> fixedWidths_;  // by family, of which texts have few
 };
 
 }  // namespace QZCore
