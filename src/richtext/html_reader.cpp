@@ -30,9 +30,22 @@ bool belongsToHead(StringView name) {
         name, {u"base", u"link", u"meta", u"title", u"style", u"script", u"noscript", u"template"});
 }
 
+/// What HTML's elements mean, read once.
+struct DefaultStyles {
+    DefaultStyles() { rules.add(htmlDefaultStyles()); }
+
+    CssNames names;
+    CssRules rules{names};
+};
+
+const DefaultStyles& defaultStyles() {
+    static const DefaultStyles& styles = *new DefaultStyles;
+    return styles;
+}
+
 }  // namespace
 
-HtmlReader::HtmlReader() { defaultRules_.add(htmlDefaultStyles()); }
+HtmlReader::HtmlReader() : names_(defaultStyles().names) {}
 
 RichText HtmlReader::read(StringView html) {
     HtmlTokenizer tokenizer(html);
@@ -169,7 +182,7 @@ HtmlLook HtmlReader::lookOf(const HtmlToken& tag) {
     const auto add = [&](const CssDeclarations& list) {
         for (const CssDeclaration& declaration : list) declarations.push_back(&declaration);
     };
-    for (const CssDeclarations* list : defaultRules_.declarationsFor(keys_)) add(*list);
+    for (const CssDeclarations* list : defaultStyles().rules.declarationsFor(keys_)) add(*list);
     const CssDeclarations hints = htmlHintsOf(tag);
     add(hints);
     for (const CssDeclarations* list : rules_.declarationsFor(keys_)) add(*list);

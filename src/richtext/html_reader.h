@@ -64,8 +64,7 @@ private:
     [[nodiscard]] HtmlPlace place();
     [[nodiscard]] const TextAttributes& attributesOf(Element& element);
 
-    CssNames names_;
-    CssRules defaultRules_{names_};
+    CssNames names_;  // go on from those of the default styles
     CssRules rules_{names_};
     HtmlAttributes attributes_;
     HtmlImages images_;
