@@ -177,16 +177,15 @@ private:
         const String style = styleOf(index, look);
         const std::string name = elementOf(block, style);
         if (!name.empty()) out_ += "<" + name + markupAttribute("style", style) + ">";
-        block.kind == BlockKind::Code ? writeCode(block, look) : writeLine(block, look);
-        if (isEmptyAbovePart(index)) out_ += "<br>";
+        block.kind == BlockKind::Code ? writeCode(block, look) : writeLine(index, look);
         if (!name.empty()) out_ += "</" + name + ">";
         if (!block.isInList || block.isQuoted) out_ += "\n";
     }
 
-    void writeLine(const Block& block, const TextAttributes& look) {
-        const Range line = blocks_.lineOf(block);
+    void writeLine(std::size_t index, const TextAttributes& look) {
+        const Range line = blocks_.lineOf(blocks_.blocks[index]);
         runs_.write(line, look);
-        if (isFragment() && line.length == 0) out_ += "<br>";
+        if (line.length == 0 && (isFragment() || isEmptyAbovePart(index))) out_ += "<br>";
     }
 
     /// Readers drop a line feed behind the tag, and one at the end.
