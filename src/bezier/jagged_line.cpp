@@ -32,8 +32,8 @@ void writeTeeth(Point from, Point to, std::uint32_t teeth, double width, Point* 
     }
 }
 
-void jaggedLineToPoint(BezierPath& path, Point point, std::uint32_t teeth, double width,
-                       std::span<Point> buffer) {
+void joc_jaggedLineToPoint(BezierPath& path, Point point, std::uint32_t teeth, double width,
+                           std::span<Point> buffer) {
     if (path.isEmpty() || buffer.size() / 2 < teeth) return;
     writeTeeth(firstPointOfLastElement(path.elements()), point, teeth, width, buffer.data());
     path.appendBezierPathWithPoints(buffer.data(), std::size_t{teeth} * 2);

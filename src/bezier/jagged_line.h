@@ -20,7 +20,7 @@ void writeTeeth(Point from, Point to, std::uint32_t teeth, double width, Point* 
 /// its first control point, or the start of its subpath. The points are put together
 /// in `buffer`, which holds two for each tooth. Nothing happens when it holds fewer,
 /// when there are no teeth, or when the path is empty.
-void jaggedLineToPoint(BezierPath& path, Point point, std::uint32_t teeth, double width,
-                       std::span<Point> buffer);
+void joc_jaggedLineToPoint(BezierPath& path, Point point, std::uint32_t teeth, double width,
+                           std::span<Point> buffer);
 
 }  // namespace QZCore

@@ -140,20 +140,21 @@ JaggedOutline jaggedOutline(Rect rect, double a, double b, Teeth teeth) {
     b = halfAxis(b - teeth.depth, rect.size.height);
     if (a == 0 || b == 0) a = b = 0;
     JaggedOutline outline(teeth, a, b);
-    outline.draw(validRectWithRect(rect, a, b, teeth.spacing));
+    outline.draw(joc_validRectWithRect(rect, a, b, teeth.spacing));
     return outline;
 }
 
 }  // namespace
 
-Rect validRectWithRect(Rect rect, double a, double b, double spacing) {
+Rect joc_validRectWithRect(Rect rect, double a, double b, double spacing) {
     const Rect valid{rect.origin,
                      {validExtent(rect.size.width, 2 * a, spacing),
                       validExtent(rect.size.height, 2 * b, spacing)}};
     return centerRectInRect(valid, rect);
 }
 
-BezierPath bezierPathWithJaggedRoundedRectInRect(Rect rect, double a, double b, double spacing) {
+BezierPath joc_bezierPathWithJaggedRoundedRectInRect(Rect rect, double a, double b,
+                                                     double spacing) {
     // Half a tooth's width makes right angles; teeth are flatter where the shape is thin.
     const double depth = std::min({spacing / 2, rect.size.width / 4, rect.size.height / 4});
     const JaggedOutline jagged = jaggedOutline(rect, a, b, {spacing, depth});
@@ -163,12 +164,12 @@ BezierPath bezierPathWithJaggedRoundedRectInRect(Rect rect, double a, double b, 
 
 BezierPath BezierPath::bezierPathWithJaggedPillInRect(Rect rect, double spacing) {
     const double radius = std::min(rect.size.width, rect.size.height) / 2;
-    return bezierPathWithJaggedRoundedRectInRect(rect, radius, radius, spacing);
+    return joc_bezierPathWithJaggedRoundedRectInRect(rect, radius, radius, spacing);
 }
 
 BezierPath BezierPath::bezierPathWithJaggedOvalInRect(Rect rect, double spacing) {
-    return bezierPathWithJaggedRoundedRectInRect(rect, rect.size.width / 2, rect.size.height / 2,
-                                                 spacing);
+    return joc_bezierPathWithJaggedRoundedRectInRect(rect, rect.size.width / 2,
+                                                     rect.size.height / 2, spacing);
 }
 
 }  // namespace QZCore

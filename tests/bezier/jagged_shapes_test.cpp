@@ -13,7 +13,7 @@ namespace QZCore {
 TEST_CASE("a jagged line has tips beside it and bases on it") {
     BezierPath path = testing::pathOf(u"M0 0");
     std::vector<Point> buffer(8);
-    jaggedLineToPoint(path, {40, 0}, 4, 3, buffer);
+    joc_jaggedLineToPoint(path, {40, 0}, 4, 3, buffer);
     CHECK(path == testing::pathOf(u"M0 0 5 3 10 0 15 3 20 0 25 3 30 0 35 3 40 0"));
 
     struct Row {
@@ -44,7 +44,7 @@ TEST_CASE("a jagged line has tips beside it and bases on it") {
         CAPTURE(row.why);
         BezierPath changed = testing::pathOf(row.path);
         std::vector<Point> room(row.room);
-        jaggedLineToPoint(changed, row.to, row.teeth, 3, room);
+        joc_jaggedLineToPoint(changed, row.to, row.teeth, 3, room);
         CHECK(changed == testing::pathOf(row.jagged));
     }
 }
@@ -57,7 +57,7 @@ TEST_CASE("jagged outlines fill their rectangle with teeth of one width") {
         const double a = random.number(0, rect.size.width);
         const double b = random.number(0, rect.size.height);
         const BezierPath shapes[] = {
-            bezierPathWithJaggedRoundedRectInRect(rect, a, b, spacing),
+            joc_bezierPathWithJaggedRoundedRectInRect(rect, a, b, spacing),
             BezierPath::bezierPathWithJaggedPillInRect(rect, spacing),
             BezierPath::bezierPathWithJaggedOvalInRect(rect, spacing),
         };
@@ -84,7 +84,7 @@ TEST_CASE("jagged outlines fill their rectangle with teeth of one width") {
         CHECK(distanceBetweenPoints(points[i], points[i + 2]) ==
               doctest::Approx(i % 2 == 0 ? 10.657 : 11.218).epsilon(1e-3));
     }
-    const Rect valid = validRectWithRect({{0, 0}, {107, 49}}, 10, 5, 8);
+    const Rect valid = joc_validRectWithRect({{0, 0}, {107, 49}}, 10, 5, 8);
     CHECK(valid == Rect{{3.5, 3.5}, {100, 42}});
 }
 
@@ -96,7 +96,7 @@ TEST_CASE("outlines without teeth are smooth") {
         CHECK(BezierPath::bezierPathWithJaggedPillInRect(rect, spacing).elementCount() < 10);
         CHECK(BezierPath::bezierPathWithJaggedOvalInRect(rect, spacing).elementCount() < 10);
     }
-    CHECK(bezierPathWithJaggedRoundedRectInRect(rect, 0, 5, 0) ==
+    CHECK(joc_bezierPathWithJaggedRoundedRectInRect(rect, 0, 5, 0) ==
           testing::pathOf(u"M0 0H40V20H0V0Z"));
 }
 
