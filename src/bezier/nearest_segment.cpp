@@ -1,6 +1,7 @@
 #include "bezier/nearest_segment.h"
 
 #include <cmath>
+#include <limits>
 
 #include "bezier/path_boxes.h"
 
@@ -19,7 +20,8 @@ public:
     Nearest(Point point, const HitRadius& radius) : point_(point), radius_(radius) {}
 
     void lookAt(std::size_t index, const PathStep& step) {
-        constexpr float kUnmeasured = -1;
+        // No distance: rounding leaves some less than 0, but none that far.
+        constexpr float kUnmeasured = std::numeric_limits<float>::lowest();
         SegmentHit hit{static_cast<std::ptrdiff_t>(index), 0, kUnmeasured};
         isStepHit(step, point_, &hit.position, radius_, &hit.distanceSquared);
         if (hit.distanceSquared == kUnmeasured) return;

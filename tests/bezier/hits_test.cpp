@@ -198,6 +198,10 @@ TEST_CASE("what has no strokes is not hit") {
     BezierPath headless;
     headless.lineToPoint({10, 0});
     CHECK_FALSE(headless.strokeContainsPoint({5, 0}, 1));
+    BezierPath far;  // rounding makes the square of the distance -1
+    far.moveToPoint({-6e6, 6.9e7});
+    far.curveToPoint({1.02e8, -1.25e8}, {-1.16e8, -7.9e7}, {1.53e8, -2.8e7});
+    CHECK(found(far, {-32510009.765625, 4450927.734375}, -1).index == 1);
     BezierPath loop;
     loop.moveToPoint({3, 3});
     loop.curveToPoint({3, 3}, {9, 3}, {3, 9});
