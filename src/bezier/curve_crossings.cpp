@@ -90,7 +90,7 @@ public:
             if (overlap(boxOf(a.points), box)) {
                 if (isFlat(b)) {
                     if (cross(a, b)) return true;
-                } else if (canGetFlat(box)) {
+                } else if (canGetFlat(box) && !staysLong(box)) {
                     divide(a, b);
                 }
             }
@@ -109,6 +109,16 @@ private:
         const double least = std::max(leastMagnitude(box.origin.x, box.size.width),
                                       leastMagnitude(box.origin.y, box.size.height));
         return least * std::numeric_limits<double>::epsilon() < std::abs(flat_.ofLines);
+    }
+    /// Whether every stretch of a curve in that box that the halvings left can make is
+    /// so long that its distances, which count in single precision, cannot be told to
+    /// within what is flat. Stretches of a cubic shrink by no more than a cube.
+    [[nodiscard]] bool staysLong(Rect box) const {
+        constexpr int kRounding = 40;
+        constexpr int kShareOfBox = 13;
+        const int left = kDeepest - static_cast<int>(depth_);
+        const double extent = box.size.width + box.size.height;
+        return std::ldexp(extent, -(3 * left + kShareOfBox + kRounding)) > std::abs(flat_.ofLines);
     }
     [[nodiscard]] bool isFlat(const CubicPoints& b) const {
         return straightLineHit(b[0], b[3], b[1], nullptr, flat_, nullptr) &&
