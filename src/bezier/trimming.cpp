@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <compare>
 
 #include "QZCore/bezier/cubics.h"
 #include "bezier/element_ends.h"
+#include "bezier/length_bounds.h"
 #include "bezier/path_measures.h"
 
 namespace QZCore {
@@ -19,6 +21,17 @@ PathPiece cutLine(const PathStep& step, double remaining, double length) {
     return {PathElementType::LineTo, {cut}, t};
 }
 
+/// How a length compares to the measure of a segment, which is within `maxError` the
+/// same. The segment is measured only if that is not clear without.
+std::partial_ordering compared(double length, const Point* segment, float maxError) {
+    const LengthBounds bounds = boundsOfLength(segment, maxError / 2);
+    if (length - maxError > bounds.most) return std::partial_ordering::greater;
+    if (length + maxError < bounds.least) return std::partial_ordering::less;
+    const double measured = lengthOfBezier(segment, maxError / 2);
+    if (std::abs(length - measured) < maxError) return std::partial_ordering::equivalent;
+    return length <=> measured;
+}
+
 /// The part of a curve that is `remaining` long, found by bisection.
 PathPiece cutCurve(const PathStep& step, double remaining, float maxError) {
     const Point segment[] = {step.current, step.points[0], step.points[1], step.points[2]};
@@ -28,13 +41,12 @@ PathPiece cutCurve(const PathStep& step, double remaining, float maxError) {
     float t = 0.5F;
     for (float before = -1; t != before;) {
         subdivideBezierAtT(segment, left, nullptr, t);
-        const double measured = lengthOfBezier(left, maxError / 2);
-        if (std::abs(remaining - measured) < maxError) break;
+        const std::partial_ordering order = compared(remaining, left, maxError);
         before = t;
-        if (remaining > measured) {
+        if (order > 0) {
             low = t;
             t = (high + t) / 2;
-        } else if (remaining < measured) {
+        } else if (order < 0) {
             high = t;
             t = (low + t) / 2;
         }
