@@ -106,7 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Bytes bytes(data, size);
     const Point p = bytes.point();
     const auto number = static_cast<float>(bytes.number());
-    const BezierPath path = pathOf(bytes, 64);
+    const BezierPath path = pathOf(bytes, 32);
     const BezierPath other = pathOf(bytes, 16);
     ask(path, other, p, number);
     ask(other, path, path.currentPoint(), -1);

@@ -104,11 +104,17 @@ private:
         const double reach = flat_.ofLines;
         return reach * reach > 0;
     }
+    /// How far off a line a flat curve is at most; squares of larger distances are
+    /// beyond the floats.
+    [[nodiscard]] double flatReach() const {
+        constexpr double kFarthest = 0x1p64;
+        return std::fmin(std::abs(flat_.ofLines), kFarthest);
+    }
     /// Whether coordinates somewhere in the box are small enough to tell what is flat.
     [[nodiscard]] bool canGetFlat(Rect box) const {
         const double least = std::max(leastMagnitude(box.origin.x, box.size.width),
                                       leastMagnitude(box.origin.y, box.size.height));
-        return least * std::numeric_limits<double>::epsilon() < std::abs(flat_.ofLines);
+        return least * std::numeric_limits<double>::epsilon() < flatReach();
     }
     /// Whether every stretch of a curve in that box that the halvings left can make is
     /// so long that its distances, which count in single precision, cannot be told to
@@ -118,7 +124,7 @@ private:
         constexpr int kShareOfBox = 13;
         const int left = kDeepest - static_cast<int>(depth_);
         const double extent = box.size.width + box.size.height;
-        return std::ldexp(extent, -(3 * left + kShareOfBox + kRounding)) > std::abs(flat_.ofLines);
+        return std::ldexp(extent, -(3 * left + kShareOfBox + kRounding)) > flatReach();
     }
     [[nodiscard]] bool isFlat(const CubicPoints& b) const {
         return straightLineHit(b[0], b[3], b[1], nullptr, flat_, nullptr) &&

@@ -271,7 +271,10 @@ TEST_CASE("curves that lie on each other, or far out, end") {
     BezierPath larger = curve;
     curve.scaleBy(1e38);
     larger.scaleBy(1e199);
-    for (int i = 0; i < 1000; ++i) CHECK_FALSE(curve.intersectionWithPath(larger));
+    for (const double width : {1.0, 1e300}) {
+        curve.setLineWidth(width);
+        for (int i = 0; i < 500; ++i) CHECK_FALSE(curve.intersectionWithPath(larger));
+    }
 }
 
 }  // namespace QZCore
