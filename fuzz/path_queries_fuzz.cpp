@@ -107,7 +107,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Point p = bytes.point();
     const auto number = static_cast<float>(bytes.number());
     const BezierPath path = pathOf(bytes, 32);
-    const BezierPath other = pathOf(bytes, 16);
+    const BezierPath other = pathOf(bytes, 8);
     ask(path, other, p, number);
     ask(other, path, path.currentPoint(), -1);
     return 0;
