@@ -12,45 +12,64 @@ constexpr double kMarginOfCoordinates = 2e-7;
 // Farther out, the rounding of the questions' own steps exceeds the margins.
 constexpr double kFarthest = 1e9;
 
+/// What lies around points, of which there is at least one.
+class Surroundings {
+public:
+    explicit Surroundings(Point first)
+        : left_(first.x), top_(first.y), right_(first.x), bottom_(first.y), sum_(left_ + top_) {}
+
+    void include(Point point) {
+        const auto [x, y] = point;
+        left_ = x < left_ ? x : left_;
+        top_ = y < top_ ? y : top_;
+        right_ = x > right_ ? x : right_;
+        bottom_ = y > bottom_ ? y : bottom_;
+        sum_ += x + y;
+    }
+
+    [[nodiscard]] Box box() const {
+        const double farthest = std::max(std::max(-left_, -top_), std::max(right_, bottom_));
+        if (std::isnan(sum_) || !(farthest <= kFarthest)) return kEverywhere;
+        const double margin = kLeastMargin + kMarginOfExtent * (right_ - left_ + bottom_ - top_) +
+                              kMarginOfCoordinates * farthest;
+        return {static_cast<float>(left_ - margin), static_cast<float>(top_ - margin),
+                static_cast<float>(right_ + margin), static_cast<float>(bottom_ + margin)};
+    }
+
+private:
+    double left_;
+    double top_;
+    double right_;
+    double bottom_;
+    double sum_;  // not a number when a coordinate is none
+};
+
 }  // namespace
 
 Box boxAround(const Point* points, std::size_t count) {
-    double left = points[0].x;
-    double top = points[0].y;
-    double right = left;
-    double bottom = top;
-    double sum = left + top;  // not a number when a coordinate is none
-    for (std::size_t i = 1; i < count; ++i) {
-        const auto [x, y] = points[i];
-        left = x < left ? x : left;
-        top = y < top ? y : top;
-        right = x > right ? x : right;
-        bottom = y > bottom ? y : bottom;
-        sum += x + y;
-    }
-    const double farthest = std::max(std::max(-left, -top), std::max(right, bottom));
-    if (std::isnan(sum) || !(farthest <= kFarthest)) return kEverywhere;
-    const double margin = kLeastMargin + kMarginOfExtent * (right - left + bottom - top) +
-                          kMarginOfCoordinates * farthest;
-    return {static_cast<float>(left - margin), static_cast<float>(top - margin),
-            static_cast<float>(right + margin), static_cast<float>(bottom + margin)};
+    Surroundings around(points[0]);
+    for (std::size_t i = 1; i < count; ++i) around.include(points[i]);
+    return around.box();
 }
 
 Box boxAround(const PathStep& step) {
-    Point points[4] = {step.current, step.end()};
+    Surroundings around(step.current);
     switch (step.type) {
-        case PathElementType::MoveTo:
-            points[2] = step.subpathStart;
-            return boxAround(points, 3);
         case PathElementType::CurveTo:
-            points[2] = step.points[0];
-            points[3] = step.points[1];
-            return boxAround(points, 4);
+            around.include(step.points[1]);
+            around.include(step.points[2]);
+            [[fallthrough]];
         case PathElementType::LineTo:
+            around.include(step.points[0]);
+            break;
+        case PathElementType::MoveTo:
+            around.include(step.points[0]);
+            [[fallthrough]];
         case PathElementType::ClosePath:
+            around.include(step.subpathStart);
             break;
     }
-    return boxAround(points, 2);
+    return around.box();
 }
 
 }  // namespace QZCore

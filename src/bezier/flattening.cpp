@@ -15,41 +15,48 @@ constexpr double kFlatness = 0.1;
 // of their size.
 constexpr int kMostPieces = 1024;
 
-/// How much the second of three control points is off the middle of the others.
-double bend(Point a, Point b, Point c) {
+/// How much the second of three control points is off the middle of the others, squared.
+double squaredBend(Point a, Point b, Point c) {
     const Point off{a.x - 2 * b.x + c.x, a.y - 2 * b.y + c.y};
-    return std::sqrt(dotProduct(off, off));
+    return dotProduct(off, off);
 }
 
 }  // namespace
 
 int flatPiecesOf(const PathStep& curve) {
     const Point* p = curve.points;
-    const double bent = std::max(bend(curve.current, p[0], p[1]), bend(p[0], p[1], p[2]));
+    const double bent =
+        std::sqrt(std::max(squaredBend(curve.current, p[0], p[1]), squaredBend(p[0], p[1], p[2])));
     // A chord over a stretch h of the parameter is off by at most h² / 8 times the
     // second derivative, which is at most 6 times the bend.
-    const double pieces = std::ceil(std::sqrt(0.75 * bent / kFlatness));
-    return pieces > 1 ? static_cast<int>(std::fmin(pieces, kMostPieces)) : 1;
+    const double squaredPieces = 0.75 * bent / kFlatness;
+    if (!(squaredPieces > 1)) return 1;
+    const double pieces = std::min<double>(std::sqrt(squaredPieces), kMostPieces);
+    const int whole = static_cast<int>(pieces);
+    return whole < pieces ? whole + 1 : whole;
 }
 
 BezierPath BezierPath::bezierPathByFlatteningPath() const {
     BezierPath flat = *this;
     flat.removeAllPoints();
     std::array<Point, 64> ends;
+    std::size_t count = 0;
+    const auto appendEnds = [&] {
+        flat.elements_.appendLines(ends.data(), count);
+        count = 0;
+    };
     for (const PathStep& step : PathSteps(elements_)) {
-        if (step.type != PathElementType::CurveTo) {
+        if (step.type == PathElementType::MoveTo || step.type == PathElementType::ClosePath) {
+            appendEnds();
             flat.elements_.append(step.type, step.points);
             continue;
         }
-        std::size_t count = 0;
         visitFlatEnds(step, [&](Point end) {
+            if (count == ends.size()) appendEnds();
             ends[count++] = end;
-            if (count < ends.size()) return;
-            flat.elements_.appendLines(ends.data(), count);
-            count = 0;
         });
-        flat.elements_.appendLines(ends.data(), count);
     }
+    appendEnds();
     return flat;
 }
 
