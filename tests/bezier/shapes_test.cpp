@@ -3,6 +3,7 @@
 
 #include "QZCore/bezier.h"
 #include "QZCore/geometry.h"
+#include "support/path_data.h"
 #include "support/path_pieces.h"
 #include "support/plane_printing.h"
 #include "support/random_path.h"
@@ -203,39 +204,29 @@ TEST_CASE("transforms move points; those that would do nothing leave the path al
 TEST_CASE("level and upright runs are moved to half units") {
     struct Row {
         const char* why;
-        std::vector<Point> points;
-        bool closed;
-        std::vector<Point> snapped;
+        StringView path;
+        StringView snapped;
     };
     const Row rows[] = {
-        {"a slanted run", {{0, 0}, {10, 5}}, false, {{0, 0}, {10, 5}}},
-        {"a level run", {{0.2, 3.9}, {10, 3.9}}, false, {{0.2, 3.5}, {10, 3.5}}},
-        {"an upright run", {{-0.2, 0}, {-0.2, 7}}, false, {{-0.5, 0}, {-0.5, 7}}},
-        {"no run at all", {{2, 3}, {2, 3}}, false, {{2.5, 3.5}, {2.5, 3.5}}},
-        {"a closing run", {{0, 4}, {5, 9}, {8, 4}}, true, {{0, 4.5}, {5, 9}, {8, 4.5}}},
-        {"an open one", {{0, 4}, {5, 9}, {8, 4}}, false, {{0, 4}, {5, 9}, {8, 4}}},
-        {"one after the other", {{0, 0}, {4, 0}, {4, 4}}, false, {{0, 0.5}, {4.5, 0.5}, {4.5, 4}}},
-        {"a closed point", {{1, 2}}, true, {{1.5, 2.5}}},
+        {"a slanted run", u"M0 0 10 5", u"M0 0 10 5"},
+        {"a level run", u"M.2 3.9 10 3.9", u"M.2 3.5 10 3.5"},
+        {"an upright run", u"M-.2 0-.2 7", u"M-.5 0-.5 7"},
+        {"no run at all", u"M2 3 2 3", u"M2.5 3.5 2.5 3.5"},
+        {"a closing run", u"M0 4 5 9 8 4Z", u"M0 4.5 5 9 8 4.5Z"},
+        {"one to the first subpath", u"M0 4M5 9 8 4Z", u"M0 4.5M5 9 8 4.5Z"},
+        {"an open one", u"M0 4 5 9 8 4", u"M0 4 5 9 8 4"},
+        {"one after the other", u"M0 0 4 0 4 4", u"M0 .5 4.5 .5 4.5 4"},
+        {"a closed point", u"M1 2Z", u"M1.5 2.5Z"},
+        {"a curve that begins level", u"M0 1C5 1 6 6 9 9", u"M0 1.5C5 1.5 6 6 9 9"},
+        {"a curve that ends level", u"M0 0C5 1 6 6 9 9L2 9", u"M0 0C5 1 6 6 9 9.5L2 9.5"},
+        {"level as a float is not level", u"M0 1 9 1.000000000001", u"M0 1 9 1.000000000001"},
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
-        BezierPath path = BezierPath::bezierPathWithPointsArray(row.points);
-        BezierPath snapped = BezierPath::bezierPathWithPointsArray(row.snapped);
-        if (row.closed) {
-            path.closePath();
-            snapped.closePath();
-        }
+        BezierPath path = testing::pathOf(row.path);
         path.makeSureAllControlPointsAreNonIntegral();
-        CHECK(path == snapped);
+        CHECK(path == testing::pathOf(row.snapped));
     }
-    BezierPath curve;
-    curve.moveToPoint({0, 1});
-    curve.curveToPoint({9, 9}, {5, 1}, {6, 6});
-    curve.makeSureAllControlPointsAreNonIntegral();
-    BezierPath expected;
-    expected.moveToPoint({0, 1.5});
-    expected.curveToPoint({9, 9}, {5, 1.5}, {6, 6});
-    CHECK(curve == expected);
     BezierPath closes;
     closes.closePath();
     closes.lineToPoint({1, 1});
