@@ -19,9 +19,12 @@ constexpr float kFlatness = 1;
 constexpr int kDeepest = 64;
 
 Rect boxOf(const CubicPoints& curve) {
-    const auto [left, right] = std::ranges::minmax(curve, {}, &Point::x);
-    const auto [top, bottom] = std::ranges::minmax(curve, {}, &Point::y);
-    return {{left.x, top.y}, {right.x - left.x, bottom.y - top.y}};
+    const auto& [a, b, c, d] = curve;
+    const double left = std::min(std::min(a.x, b.x), std::min(c.x, d.x));
+    const double top = std::min(std::min(a.y, b.y), std::min(c.y, d.y));
+    const double right = std::max(std::max(a.x, b.x), std::max(c.x, d.x));
+    const double bottom = std::max(std::max(a.y, b.y), std::max(c.y, d.y));
+    return {{left, top}, {right - left, bottom - top}};
 }
 
 /// The magnitude of what is closest to 0 in a stretch of numbers.
