@@ -89,20 +89,21 @@ public:
         if (!canBeFlat() || !isFinite(a.points) || !isFinite(b)) return false;
         sink_.startCurves();
         while (sink_.startPair()) {
-            const Rect box = boxOf(b);
-            if (overlap(boxOf(a.points), box)) {
-                if (isFlat(b)) {
-                    if (cross(a, b)) return true;
-                } else if (canGetFlat(box) && !staysLong(box)) {
-                    divide(a, b);
-                }
-            }
+            if (compare(a, b)) return true;
             if (!resume(a, b)) return false;
         }
         return false;
     }
 
 private:
+    /// Crosses a pair of pieces, or divides it. Whether the sink has had enough.
+    bool compare(const Stretch& a, const CubicPoints& b) {
+        const Rect box = boxOf(b);
+        if (!overlap(boxOf(a.points), box)) return false;
+        if (isFlat(b)) return cross(a, b);
+        if (canGetFlat(box) && !staysLong(box)) divide(a, b);
+        return false;
+    }
     [[nodiscard]] bool canBeFlat() const {
         const double reach = flat_.ofLines;
         return reach * reach > 0;
