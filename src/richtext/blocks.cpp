@@ -72,8 +72,9 @@ bool BlockClassifier::isQuoted(const TextAttributes& attributes) const {
     if (style == nullptr) return false;
     const ParagraphStyle around =
         base_.paragraphStyle() == nullptr ? ParagraphStyle() : *base_.paragraphStyle();
-    return style->headIndent > around.headIndent &&
-           style->firstLineHeadIndent > around.firstLineHeadIndent;
+    const double indent = itemIndentOf(*style);
+    return style->headIndent - indent > around.headIndent &&
+           style->firstLineHeadIndent - indent > around.firstLineHeadIndent;
 }
 
 Block BlockClassifier::otherBlockOf(const RichText& text, Range paragraph) {

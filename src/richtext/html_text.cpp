@@ -59,11 +59,15 @@ double markerWidthOf(const HtmlList& list, const HtmlItem& item) {
 }
 
 /// What an item and the paragraphs below it in the item need.
-void applyList(ParagraphStyle& style, const HtmlList& list, double markerWidth) {
+void applyList(ParagraphStyle& style, const HtmlList& list, double markerWidth, bool hasMarker) {
     const double indent = style.headIndent;
     ItemIndents().apply(style, static_cast<double>(list.depth), markerWidth);
+    if (hasMarker) {
+        for (TextTab& tab : style.tabStops) tab.location += indent;
+    } else {
+        style.firstLineHeadIndent += style.headIndent;
+    }
     style.headIndent += indent;
-    for (TextTab& tab : style.tabStops) tab.location += indent;
     style.textLists = list.around;
 }
 
@@ -87,6 +91,7 @@ void HtmlText::open(const HtmlPlace& place) {
     if (!place.item->isMarked) {
         append(u"\t" + place.item->marker + u"\t", palette_.idOf(place.item->attributes));
         paragraphs_.back().style.firstLineHeadIndent = 0;
+        paragraphs_.back().hasMarker = true;
         place.item->isMarked = true;
     }
 }
@@ -99,6 +104,8 @@ void HtmlText::splitParagraph() {
     paragraphs_.back().end = static_cast<std::uint32_t>(text_.size());
     paragraphs_.back().style.paragraphSpacing = 0;
     next.style.paragraphSpacingBefore = 0;
+    if (std::exchange(next.hasMarker, false))
+        next.style.firstLineHeadIndent = next.style.headIndent;
     paragraphs_.push_back(std::move(next));
 }
 
@@ -239,7 +246,7 @@ FlatText HtmlText::inParagraphStyles(const std::vector<HtmlList>& lists,
             const HtmlList& list = lists[item->list];
             double& width = markerWidths.try_emplace(item->list, -1.0).first->second;
             if (width < 0) width = markerWidthOf(list, *item);
-            applyList(paragraph.style, list, width);
+            applyList(paragraph.style, list, width, paragraph.hasMarker);
         }
         const std::uint64_t style = styles.numberOf(paragraph.style);
         for (; start < paragraph.end; start = std::min(runs_[run].end, paragraph.end)) {

@@ -79,6 +79,7 @@ private:
         std::uint32_t end = 0;
         ParagraphStyle style;
         const HtmlItem* item = nullptr;
+        bool hasMarker = false;
     };
 
     void addKept(StringView text, const HtmlPlace& place, std::uint32_t id);

@@ -152,8 +152,14 @@ private:
         css += cssOfTraits(block, look);
         if (first.paragraphStyle() == nullptr) return css;
         ParagraphStyle style = *first.paragraphStyle();
-        // The list around an item indents it.
-        if (block.kind == BlockKind::Item) style.headIndent = style.firstLineHeadIndent = 0;
+        // The list around an item indents it, and what is below it.
+        if (block.kind == BlockKind::Item) {
+            style.headIndent = style.firstLineHeadIndent = 0;
+        } else if (block.isInList) {
+            const double indent = itemIndentOf(style);
+            style.headIndent -= indent;
+            style.firstLineHeadIndent -= indent;
+        }
         // The bar along a quotation goes on between its paragraphs.
         if (isQuotedOn(index) && style.paragraphSpacing != 0) {
             css += u"padding-bottom:" + cssLength(std::exchange(style.paragraphSpacing, 0)) + u";";

@@ -31,6 +31,12 @@ String TextListItem::marker() const {
     return isNumbered() ? unsignedString(number) + u"." : String(1, bullet);
 }
 
+double itemIndentOf(const ParagraphStyle& style) {
+    const bool isInList =
+        style.tabStops.size() == 2 && style.tabStops[0].alignment == TextAlignment::Right;
+    return isInList ? style.tabStops[1].location : 0;
+}
+
 std::optional<FoundTextListItem> listItemAt(const RichText& text, Range paragraph) {
     constexpr std::size_t kLongestStart = kMostDigits + 3;  // two tabs and a full stop
     if (text.characterAtIndex(paragraph.location) != u'\t') return std::nullopt;

@@ -168,6 +168,10 @@ TEST_CASE("elements and styles give text its look") {
         {"items as those of Markdown", u"<ul style='margin:0'><li>a<ol><li>b",
          u"[\t●\ta/] paragraphStyle head 11, tab 6, tab 11"
          u"[\t1.\tb] paragraphStyle head 38, tab 33, tab 38, list {disc}"},
+        {"paragraphs below an item", u"<ul><li>a<p style='margin:0'>b</p>c",
+         u"[\t●\ta/] paragraphStyle head 11, tab 6, tab 11"
+         u"[b/] paragraphStyle head 11, first-head 11, tab 6, tab 11"
+         u"[c] paragraphStyle after 12, head 11, first-head 11, tab 6, tab 11"},
         {"quotations and directions", u"<blockquote dir=rtl>a",
          u"[a] paragraphStyle head 30, first-head 30, tail -30, direction 2"},
     };

@@ -46,4 +46,9 @@ struct FoundTextListItem {
 [[nodiscard]] QZ_EXPORT std::optional<FoundTextListItem> listItemAt(const RichText& text,
                                                                     Range paragraph);
 
+/// How far the list around a paragraph of that style indents its text: where the
+/// texts of items start, which paragraphs below an item know, too. 0 outside of
+/// lists.
+[[nodiscard]] QZ_EXPORT double itemIndentOf(const ParagraphStyle& style);
+
 }  // namespace QZCore
