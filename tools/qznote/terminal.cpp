@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "QZCore/color/color_bytes.h"
 #include "QZCore/richtext/html.h"
 #include "stand_ins.h"
 
