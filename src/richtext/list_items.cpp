@@ -22,7 +22,8 @@ std::optional<TextListItem> itemOfMarker(StringView marker) {
     if (digits.empty() || digits.size() > kMostDigits || marker.substr(digits.size()) != u".") {
         return std::nullopt;
     }
-    return TextListItem{.bullet = u'\0', .number = static_cast<std::uint32_t>(integerValue(digits))};
+    return TextListItem{.bullet = u'\0',
+                        .number = static_cast<std::uint32_t>(integerValue(digits))};
 }
 
 }  // namespace

@@ -4,11 +4,11 @@
 #include <filesystem>
 
 #include "QZCore/foundation/files.h"
+#include "QZCore/richtext/html.h"
 #include "support/case_file.h"
 #include "support/font_scope.h"
 #include "support/markdown_settings.h"
 #include "support/tag_balance.h"
-#include "QZCore/richtext/html.h"
 #include "tools/qznote/note.h"
 #include "tools/qznote/runs_writer.h"
 

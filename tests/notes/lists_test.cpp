@@ -5,10 +5,10 @@
 
 #include "QZCore/markdown/lists.h"
 #include "QZCore/model/pair.h"
+#include "QZCore/richtext/html.h"
 #include "support/font_scope.h"
 #include "support/tag_balance.h"
 #include "support/text_rows.h"
-#include "QZCore/richtext/html.h"
 #include "tools/qznote/note.h"
 #include "tools/qznote/outline_report.h"
 

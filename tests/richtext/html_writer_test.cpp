@@ -4,12 +4,12 @@
 
 #include <random>
 
+#include "richtext/paragraphs.h"
 #include "support/font_scope.h"
 #include "support/random_texts.h"
 #include "support/tag_balance.h"
 #include "support/text_rows.h"
 #include "tools/qznote/note.h"
-#include "richtext/paragraphs.h"
 
 namespace QZCore {
 namespace {
@@ -68,7 +68,8 @@ TEST_CASE("any rich text becomes a well-formed page that holds the same text") {
         const auto reading = testing::PageReader::read(bodyOf(text, base));
         REQUIRE(reading.fault == "");
         REQUIRE(reading.text == expected);
-        const std::string page = toUTF8(htmlFromRichText(text, {.title = u"</title>&", .base = base}));
+        const std::string page =
+            toUTF8(htmlFromRichText(text, {.title = u"</title>&", .base = base}));
         REQUIRE(testing::PageReader::read(page).fault == "");
     }
 }
