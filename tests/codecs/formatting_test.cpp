@@ -1,5 +1,7 @@
 #include "QZCore/codecs/formatting.h"
 
+#include <locale.h>
+
 #include <cmath>
 #include <cstdio>
 #include <random>
@@ -35,12 +37,16 @@ constexpr Argument kArguments[] = {
     {u"fFeEgGaA", "", 0, 123456.789},
 };
 
+/// What C prints in its own locale, whichever the process has.
 std::string printed(const std::string& format, const Argument& argument) {
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    const locale_t before = uselocale(plain);
     char text[2000];
     const int length = argument.isReal()
                            ? std::snprintf(text, sizeof text, format.c_str(), argument.real)
                            : std::snprintf(text, sizeof text, format.c_str(),
                                            static_cast<long long>(argument.integer));
+    uselocale(before);
     return {text, static_cast<std::size_t>(length)};
 }
 
