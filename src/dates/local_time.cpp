@@ -8,7 +8,7 @@ namespace QZCore {
 namespace {
 
 // No zone is farther from UTC.
-constexpr std::int64_t kLargestOffset = 26 * 3600;
+constexpr std::int64_t kLargestOffset = std::int64_t{26} * 3600;
 
 std::int64_t valueOr(std::int64_t component, std::int64_t otherwise) {
     return isDefined(component) ? component : otherwise;

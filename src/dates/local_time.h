@@ -25,7 +25,8 @@ struct Instant {
 
     [[nodiscard]] Date date() const { return {static_cast<double>(second) + fraction}; }
 
-    friend auto operator<=>(const Instant&, const Instant&) = default;
+    friend auto operator<=>(const Instant&,
+                            const Instant&) = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// The instant of a date; nothing when it is not a number or too far away.

@@ -49,7 +49,7 @@ Date placeholder(std::int64_t year, std::int64_t second) {
                              .minute = 0,
                              .second = second,
                              .nanosecond = 0})
-        .value_or(Date{-INFINITY});
+        .value_or(Date{-HUGE_VAL});
 }
 
 }  // namespace

@@ -128,20 +128,26 @@ private:
             std::min(end, lastStepTo(direction_ > 0 ? span.last : span.first));
         if (walk_.hours_.isWorkDay(weekdayOfDay(day))) {
             if (walk_.times_ == Times::Count) narrowToHours(span, day, local);
-            const std::int64_t first =
-                std::max(step_, lastStepTo((direction_ > 0 ? span.first : span.last) - direction_));
-            const std::int64_t last =
-                std::min(lastOfDay, lastStepTo(direction_ > 0 ? span.last : span.first));
-            if (last > first) {
-                const auto counted = static_cast<std::uint64_t>(last - first);
-                if (counted >= target_ - count_) {
-                    at = first + static_cast<std::int64_t>(target_ - count_);
-                    return true;
-                }
-                count_ += counted;
-            }
+            if (countSpan(span, lastOfDay, at)) return true;
         }
         step_ = lastOfDay;
+        return false;
+    }
+
+    /// Counts the steps within `span` up to `lastOfDay`.
+    bool countSpan(const WorkHours::Span& span, std::int64_t lastOfDay, std::int64_t& at) {
+        const bool isForward = direction_ > 0;
+        const std::int64_t first =
+            std::max(step_, lastStepTo((isForward ? span.first : span.last) - direction_));
+        const std::int64_t last =
+            std::min(lastOfDay, lastStepTo(isForward ? span.last : span.first));
+        if (last <= first) return false;
+        const auto counted = static_cast<std::uint64_t>(last - first);
+        if (counted >= target_ - count_) {
+            at = first + static_cast<std::int64_t>(target_ - count_);
+            return true;
+        }
+        count_ += counted;
         return false;
     }
 

@@ -98,7 +98,7 @@ private:
         }
     }
 
-    static constexpr std::int64_t kYear = 366 * 86'400;
+    static constexpr std::int64_t kYear = std::int64_t{366} * 86'400;
 
     String identifier_;
     std::vector<Type> types_;

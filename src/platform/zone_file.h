@@ -31,6 +31,6 @@ struct ZoneTable {
 };
 
 /// Reads a zone file; nothing when it is cut off or says what cannot be.
-[[nodiscard]] std::optional<ZoneTable> readZoneFile(DataView file);
+[[nodiscard]] std::optional<ZoneTable> readZoneFile(DataView bytes);
 
 }  // namespace QZCore

@@ -79,6 +79,7 @@ void RichTextEditor::changeTyping(const CharacterChange& change) {
     delegate_->selectedFontDidChange(*this, *converted.font(), false);
 }
 
+// NOLINTNEXTLINE(readability-function-size): as many as there are parts of a change
 void RichTextEditor::changeFontFamily(const std::optional<String>& fontFamily,
                                       const std::optional<String>& faceName, float fontSize,
                                       std::uint32_t trait, const std::optional<Color>& color,

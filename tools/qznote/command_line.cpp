@@ -236,6 +236,7 @@ std::variant<Command, UsageFault> readCommandLine(std::span<const char* const> a
     return Reader(arguments).read();
 }
 
+// NOLINTNEXTLINE(readability-function-size): a text
 std::string helpText() {
     return R"(qznote shows notes that are written in Markdown, and paths.
 
