@@ -1,8 +1,9 @@
 #include "codecs/zip_archive.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
+
+#include "QZCore/codecs/checksums.h"
 
 namespace QZCore {
 namespace {
@@ -17,22 +18,6 @@ constexpr std::size_t kDirectoryEndLength = 22;
 constexpr std::size_t kLongestComment = 65535;
 constexpr std::uint16_t kVersion = 10;
 constexpr std::uint16_t kFirstDay = 1 << 5 | 1;  // 1 January 1980, as archives count
-
-constexpr std::array<std::uint32_t, 256> kCrcTable = [] {
-    std::array<std::uint32_t, 256> table{};
-    for (std::uint32_t byte = 0; byte < table.size(); ++byte) {
-        std::uint32_t rest = byte;
-        for (int bit = 0; bit < 8; ++bit) rest = rest >> 1 ^ ((rest & 1) != 0 ? 0xEDB88320 : 0);
-        table[byte] = rest;
-    }
-    return table;
-}();
-
-std::uint32_t crcOf(DataView bytes) {
-    std::uint32_t crc = UINT32_MAX;
-    for (const std::uint8_t byte : bytes) crc = kCrcTable[(crc ^ byte) & 255] ^ crc >> 8;
-    return ~crc;
-}
 
 void append16(Data& to, std::uint32_t number) {
     to.push_back(static_cast<std::uint8_t>(number));
@@ -54,7 +39,7 @@ void appendDescription(Data& to, std::string_view name, DataView contents) {
     append16(to, 0);  // stored, not compressed
     append16(to, 0);  // midnight
     append16(to, kFirstDay);
-    append32(to, crcOf(contents));
+    append32(to, crc32(contents));
     append32(to, size);
     append32(to, size);
     append16(to, static_cast<std::uint32_t>(name.size()));
@@ -104,7 +89,7 @@ std::optional<DataView> contentsOf(DataView archive, std::size_t entry) {
         header + kFileHeaderLength + numbers.at16(header + 26) + numbers.at16(header + 28);
     const std::size_t size = numbers.at32(entry + 20);
     const DataView contents = numbers.part(start, size);
-    if (contents.size() != size || crcOf(contents) != numbers.at32(entry + 16)) return std::nullopt;
+    if (contents.size() != size || crc32(contents) != numbers.at32(entry + 16)) return std::nullopt;
     return contents;
 }
 

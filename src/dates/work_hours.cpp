@@ -37,8 +37,8 @@ void bringNear(Time& time) {
 
 bool isMidnight(const Time& time) { return !time || (time->hour == 0 && time->minute == 0); }
 
-/// Where the seconds of the two whole hours begin that an instant may fall
-/// behind: in the hour of a time without a minute, the seconds decide.
+/// Whether an instant lies behind the second of a time without a minute, which
+/// takes that of the instant: in its hour, the seconds alone decide.
 bool isBehindSecond(const Time& time, std::int64_t secondOfMinute, bool hasFraction) {
     const std::int64_t second = isDefined(time->second) ? time->second : secondOfMinute;
     return secondOfMinute > second || (secondOfMinute == second && hasFraction);
