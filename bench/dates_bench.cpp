@@ -2,6 +2,7 @@
 // beside QDateTime. Monday to Friday, 9 to 17 o'clock, in Berlin.
 #include <benchmark/benchmark.h>
 #include <unicode/gregocal.h>
+#include <unicode/smpdtfmt.h>
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -107,6 +108,47 @@ double qtMonths(std::int64_t months) {
     return static_cast<double>(start.addMonths(static_cast<int>(months)).toSecsSinceEpoch());
 }
 
+// ---- Tables of dates --------------------------------------------------------
+
+/// The dates of a table, some hours apart.
+double dateOfRow(std::int64_t row) { return kStart + static_cast<double>(row) * 12'345; }
+
+double tableByFormatter(std::int64_t rows, const DateFormatter& formatter) {
+    double units = 0;
+    for (std::int64_t row = 0; row < rows; ++row) {
+        units += static_cast<double>(formatter.stringForObjectValue(Date{dateOfRow(row)}).size());
+    }
+    return units;
+}
+
+double writtenTable(std::int64_t rows) {
+    DateFormatter formatter(u"en_US");
+    formatter.setDateStyle(DateFormatterStyle::Medium);
+    formatter.setTimeStyle(DateFormatterStyle::Short);
+    return tableByFormatter(rows, formatter);
+}
+
+double writtenRelativeTable(std::int64_t rows) {
+    QZRelativeDateFormatter formatter{DateFormatter(u"en_US")};
+    formatter.setDateStyle(DateFormatterStyle::Medium);
+    formatter.setTimeStyle(DateFormatterStyle::Short);
+    return tableByFormatter(rows, formatter);
+}
+
+/// One formatter of ICU's, with its own rules of the zone.
+double icuTable(std::int64_t rows) {
+    const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
+        icu::DateFormat::kMedium, icu::DateFormat::kShort, icu::Locale("en_US")));
+    format->adoptTimeZone(icu::TimeZone::createTimeZone("Europe/Berlin"));
+    double units = 0;
+    for (std::int64_t row = 0; row < rows; ++row) {
+        icu::UnicodeString text;
+        format->format(dateOfRow(row) * 1000, text);
+        units += text.length();
+    }
+    return units;
+}
+
 template <double (*kJob)(std::int64_t)>
 void run(benchmark::State& state) {
     useBerlin();
@@ -127,3 +169,6 @@ BENCHMARK(run<countedDistance>)->Name("distance in minutes, days/QZCore")->Arg(3
 BENCHMARK(run<steppedDistance>)->Name("distance in minutes, days/stepping")->Arg(30)->Arg(1095);
 BENCHMARK(run<plainMonths>)->Name("add months/QZCore")->Arg(7);
 BENCHMARK(run<qtMonths>)->Name("add months/Qt")->Arg(7);
+BENCHMARK(run<writtenTable>)->Name("table of dates/QZCore")->Arg(100'000);
+BENCHMARK(run<writtenRelativeTable>)->Name("table of dates/QZCore, relative")->Arg(100'000);
+BENCHMARK(run<icuTable>)->Name("table of dates/ICU, one formatter")->Arg(100'000);

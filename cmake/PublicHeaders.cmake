@@ -37,8 +37,15 @@ set(QZCORE_PUBLIC_HEADERS
   dates.h
   dates/calendar.h
   dates/date_components.h
+  dates/date_formatter.h
   dates/dates.h
+  dates/file_size_formatter.h
+  dates/formatter.h
+  dates/iso8601.h
+  dates/number_formatter.h
   dates/placeholder_dates.h
+  dates/rating_formatter.h
+  dates/relative_date_formatter.h
   dates/work_time.h
   export.h
   foundation.h
@@ -89,8 +96,10 @@ set(QZCORE_PUBLIC_HEADERS
   platform/fonts.h
   platform/images.h
   platform/regex.h
+  platform/string_table.h
   platform/time_zone.h
   platform/url_loading.h
+  platform/user_locales.h
   richtext.h
   richtext/blocks.h
   richtext/editing_commands.h
