@@ -106,11 +106,13 @@ set(QZCORE_PUBLIC_HEADERS
   richtext/editor.h
   richtext/font_attributes.h
   richtext/font_manager.h
+  richtext/formatted_text.h
   richtext/html.h
   richtext/list_items.h
   richtext/paragraph_style.h
   richtext/rich_text.h
   richtext/rtf.h
   richtext/text_attributes.h
-  richtext/text_lists.h)
+  richtext/text_lists.h
+  richtext/variables.h)
 list(TRANSFORM QZCORE_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/include/QZCore/)

@@ -7,6 +7,7 @@
 #include "QZCore/richtext/editor.h"
 #include "QZCore/richtext/font_attributes.h"
 #include "QZCore/richtext/font_manager.h"
+#include "QZCore/richtext/formatted_text.h"
 #include "QZCore/richtext/html.h"
 #include "QZCore/richtext/list_items.h"
 #include "QZCore/richtext/paragraph_style.h"
@@ -14,3 +15,4 @@
 #include "QZCore/richtext/rtf.h"
 #include "QZCore/richtext/text_attributes.h"
 #include "QZCore/richtext/text_lists.h"
+#include "QZCore/richtext/variables.h"

@@ -7,6 +7,7 @@
 #include "markdown/link_target.h"
 #include "markdown/passes.h"
 #include "richtext/attribute_names.h"
+#include "richtext/link_look.h"
 
 namespace QZCore {
 namespace {
@@ -27,23 +28,10 @@ StringView partOf(StringView text, SpanMatch::Span span) {
     return text.substr(span.start, span.end - span.start);
 }
 
-/// What link texts take beside the link itself.
-TextAttributes linkLook(const RenderingContext& context) {
-    TextAttributes look;
-    const auto color = colorForKey(context.preferences, u"Link Color");
-    if (color && *color != Color::clearColor()) {
-        look = look.withAttribute(attributeNames().foregroundColor, Value::boxed(*color));
-    }
-    if (context.preferences.boolForKey(u"Link Underline", true)) {
-        look = look.withAttribute(attributeNames().underlineStyle, 1);
-    }
-    return look;
-}
-
 class LinkEditor final : public MatchEditor {
 public:
     explicit LinkEditor(RenderingContext& context)
-        : context_(context), look_(linkLook(context), context.afterRendering()) {}
+        : context_(context), look_(linkLook(context.preferences), context.afterRendering()) {}
 
     void beginPart() override { fetchImages(); }
 

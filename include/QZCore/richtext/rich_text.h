@@ -266,6 +266,34 @@ public:
     /// Restyles the whole text.
     void applyFontAttributes(const TextAttributes& attributes);
 
+    // ---- Variables ----
+
+    /// Replaces every variable that `dictionary` gives a value for, in the order
+    /// of its names, and returns how many were replaced. A name with pattern
+    /// characters is a regular expression, which must also occur as it is
+    /// written. See "QZCore/richtext/variables.h" for the form of variables and
+    /// for `options`, a sum of `VariableOptions`.
+    ///
+    /// - A string is put in as it is, or in the letter case that stands behind
+    ///   the first slash: "uppercase", "lowercase" or "capitalize".
+    /// - A number is put in as its shortest decimal form.
+    /// - A date is formatted. The name decides what is written: the date if it
+    ///   contains "Date", the time if it contains "Time" or the format begins
+    ///   with "WithTime". "Long" and "Full" times are medium beside a date by
+    ///   the preferences "Long Date With Time Medium" (on unless set) and "Full
+    ///   Date With Time Medium" (off unless set). The character before a slash
+    ///   is not part of the format: "Short /uppercase" is short.
+    /// - Other values, formats that are not allowed, and patterns and dates that
+    ///   give no text leave the variable where it is.
+    ///
+    /// A replacement that is a URL with "://" becomes a link in the colour of
+    /// the preference "Link Color", underlined unless "Link Underline" is off.
+    /// As soon as the prefix is gone no more names are tried. Nothing happens
+    /// with an empty prefix or suffix, or when the preference "Ignore Variable
+    /// Replacements" is on.
+    std::int64_t replaceVariablesWithDictionary(const Dictionary& dictionary, StringView withPrefix,
+                                                StringView suffix, std::uint32_t options);
+
     // ---- Editing in batches ----
 
     /// Opens a batch of edits. Batches nest.
