@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "foundation/civil_date.h"
+#include "foundation/date_text.h"
 
 namespace QZCore {
 namespace {
@@ -53,62 +54,6 @@ std::optional<double> wordReal(std::string_view text) {
     return word.starts_with(u'-') ? -infinity : infinity;
 }
 
-/// Reads the fields of a date one after the other.
-class DateScanner {
-public:
-    explicit DateScanner(std::string_view text) : text_(text) {}
-
-    [[nodiscard]] bool take(char character) {
-        if (text_.empty() || text_.front() != character) return false;
-        text_.remove_prefix(1);
-        return true;
-    }
-
-    /// A number of `fewest` to `most` digits.
-    [[nodiscard]] std::optional<std::int64_t> number(std::size_t fewest, std::size_t most) {
-        std::size_t digits = 0;
-        std::int64_t value = 0;
-        while (digits < text_.size() && digits < most && isDigit(text_[digits])) {
-            value = value * 10 + (text_[digits++] - '0');
-        }
-        if (digits < fewest) return std::nullopt;
-        text_.remove_prefix(digits);
-        return value;
-    }
-
-    /// `mark` and a number of two digits between `low` and `high`.
-    [[nodiscard]] std::optional<int> field(char mark, int low, int high) {
-        if (!take(mark)) return std::nullopt;
-        const auto value = number(2, 2);
-        if (!value || *value < low || *value > high) return std::nullopt;
-        return static_cast<int>(*value);
-    }
-
-    [[nodiscard]] bool atEnd() const { return text_.empty(); }
-
-private:
-    std::string_view text_;
-};
-
-std::optional<std::int64_t> takeYear(DateScanner& scanner) {
-    const bool negative = scanner.take('-');
-    if (!negative) (void)scanner.take('+');  // says what no sign says
-    const auto year = scanner.number(4, 9);
-    if (!year) return std::nullopt;
-    return negative ? -*year : *year;
-}
-
-std::string digits(std::int64_t value, std::size_t fewest) {
-    const std::string text = std::to_string(value);
-    return text.size() >= fewest ? text : std::string(fewest - text.size(), '0') + text;
-}
-
-/// Four digits; years that have no four digits carry a sign.
-std::string yearText(std::int64_t year) {
-    if (year < 0) return "-" + digits(-year, 4);
-    return (year > 9999 ? "+" : "") + digits(year, 4);
-}
-
 }  // namespace
 
 bool isPropertyListText(StringView text) {
@@ -144,7 +89,7 @@ std::optional<double> propertyListReal(std::string_view text) {
 
 std::optional<Date> propertyListDate(std::string_view text) {
     DateScanner scanner(trimmed(text));
-    const auto year = takeYear(scanner);
+    const auto year = scanner.year();
     if (!year) return std::nullopt;
     const auto month = scanner.field('-', 1, 12);
     if (!month) return std::nullopt;

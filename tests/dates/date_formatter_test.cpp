@@ -91,6 +91,7 @@ TEST_CASE("dates are written by the calendar and the zone rules of the library")
             const String text = written(u"en_US_POSIX", u"G uuuu-MM-dd HH:mm:ss XXXXX", date);
             const String iso = iso8601String(date, scope.zone(), ISO8601Form::InternetDateTime);
             const std::size_t sign = iso.starts_with(u'-') ? 1 : 0;
+            REQUIRE(dateFromISO8601String(iso, *TimeZone::utc()) == date);
             const StringView era = iso < u"0001" ? u"BC " : u"AD ";
             String spaced = iso;
             spaced[iso.find(u'T', sign)] = u' ';
@@ -235,6 +236,36 @@ TEST_CASE("ISO 8601 has the local date, whole seconds and the offset") {
     CHECK(iso8601String({300'000'000'000}, *TimeZone::utc(), ISO8601Form::FullDate) ==
           u"+11476-08-15");
     CHECK(iso8601String({kNaN}, *TimeZone::utc(), kTime).empty());
+}
+
+TEST_CASE("ISO 8601 is read in its usual forms") {
+    const auto berlin = TimeZone::timeZoneWithName(u"Europe/Berlin");
+    struct Row {
+        StringView text;
+        std::optional<double> seconds;
+    };
+    const Row rows[] = {
+        {u"2024-03-01", 1'709'247'600},
+        {u"2024-03-01 14:05", 1'709'298'300},
+        {u"2024-03-01T14:05:00Z", 1'709'301'900},
+        {u"2024-03-01T14:05:00.25-01:30", 1'709'307'300.25},
+        {u"2024-03-01T14:05+00:00:02", 1'709'301'898},
+        {u"-0001-01-01T00:00Z", -62'198'755'200},
+        {u"2023-02-29", std::nullopt},
+        {u"2024-03-01T24:00", std::nullopt},
+        {u"2024-03-01T14", std::nullopt},
+        {u"2024-03-01Z", std::nullopt},
+        {u"2024-03-01T14:05:00.", std::nullopt},
+        {u"2024-03-01T14:05:00 Z", std::nullopt},
+        {u"2024-3-1", std::nullopt},
+        {u"999999999-01-01", std::nullopt},
+        {u"", std::nullopt},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.text);
+        const auto date = dateFromISO8601String(row.text, *berlin);
+        CHECK((date ? std::optional(date->secondsSince1970) : std::nullopt) == row.seconds);
+    }
 }
 
 }  // namespace QZCore
