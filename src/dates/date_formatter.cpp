@@ -31,7 +31,7 @@ std::optional<DateFormatterStyle> styleNamed(StringView word) {
 
 String preferredLocale() {
     const Preferences& preferences = Preferences::shared();
-    const String chosen = preferences.stringForKey(u"Date Locale");
+    String chosen = preferences.stringForKey(u"Date Locale");
     if (namesLocale(chosen)) return chosen;
     const auto locales = sharedUserLocales();
     if (preferences.boolForKey(u"Date Locale Use Preferred Language", true)) {

@@ -6,6 +6,8 @@
 
 #include <cmath>
 #include <mutex>
+#include <utility>
+#include <vector>
 
 #include "dates/format_cache.h"
 #include "dates/icu_locale.h"
@@ -96,8 +98,8 @@ void takeOrdinarySpaces(icu::SimpleDateFormat& format) {
     icu::DateFormatSymbols symbols(*format.getDateFormatSymbols());
     std::int32_t count = 0;
     const icu::UnicodeString* halves = symbols.getAmPmStrings(count);
-    std::vector<icu::UnicodeString> plain;
-    for (std::int32_t i = 0; i < count; ++i) plain.push_back(plainlySpaced(halves[i]));
+    std::vector<icu::UnicodeString> plain(halves, halves + count);
+    for (icu::UnicodeString& half : plain) half = plainlySpaced(std::move(half));
     symbols.setAmPmStrings(plain.data(), count);
     format.setDateFormatSymbols(symbols);
 }

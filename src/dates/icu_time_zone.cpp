@@ -54,6 +54,9 @@ public:
         saving = offset.saving * kMillisecondsPerSecond;
     }
 
+    // The parameters are ICU's.
+    // NOLINTBEGIN(readability-function-size)
+
     /// The same for the fields of a local time; months count from 0.
     [[nodiscard]] std::int32_t getOffset(std::uint8_t era, std::int32_t year, std::int32_t month,
                                          std::int32_t day, std::uint8_t /*dayOfWeek*/,
@@ -74,6 +77,8 @@ public:
                                          UErrorCode& status) const override {
         return getOffset(era, year, month, day, dayOfWeek, milliseconds, status);
     }
+
+    // NOLINTEND(readability-function-size)
 
     /// Rules are the system's and stay as they are.
     void setRawOffset(std::int32_t /*offset*/) override {}

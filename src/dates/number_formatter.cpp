@@ -31,7 +31,8 @@ void explain(String* errorDescription, StringView why) {
 }
 
 /// Stores a number that was read, if there is one and the bounds hold it.
-bool accept(Value& object, const Value& number, NumberBounds bounds, String* errorDescription) {
+bool accept(Value& object, const Value& number, const NumberBounds& bounds,
+            String* errorDescription) {
     if (number.isAbsent()) {
         explain(errorDescription, u"The number cannot be read.");
         return false;

@@ -48,7 +48,7 @@ QZRelativeDateFormatter::QZRelativeDateFormatter(const DateFormatter& formatter)
 String QZRelativeDateFormatter::stringForObjectValue(const Value& object) const {
     const Date* date = object.date();
     if (date == nullptr) return {};
-    const String word = wordForDay(*date);
+    String word = wordForDay(*date);
     if (word.empty()) return stringFromDate(*date);
     if (timeStyle() == DateFormatterStyle::None) return word;
     return word + u' ' + timeOfDay(*date, timeStyle());

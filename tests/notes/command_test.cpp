@@ -19,7 +19,7 @@ struct Outcome {
 Outcome shell(const std::string& line) {
     // A sanitized command would call fontconfig's list of fonts lost.
     const std::string whole =
-        "exec 2>&1; export ASAN_OPTIONS=detect_leaks=0; qznote() { '" QZNOTE_COMMAND
+        "exec 2>&1; export ASAN_OPTIONS=detect_leaks=0 TZ=UTC; qznote() { '" QZNOTE_COMMAND
         "' \"$@\"; }; " +
         line;
     std::FILE* pipe = ::popen(whole.c_str(), "r");
@@ -38,6 +38,8 @@ Outcome shell(const std::string& line) {
 TEST_CASE("the command writes what was asked for, or one line and an exit code") {
     const testing::TemporaryFolder folder;
     REQUIRE(writeFileAtomically(folder / "bad.json", bytesOf("[1]")));
+    REQUIRE(writeFileAtomically(folder / "v.json",
+                                bytesOf(R"({"N": "ann", "Date": "2024-03-01", "D": []})")));
     REQUIRE(writeFileAtomically(folder / "s.json", bytesOf(R"({"*": {"font-color": "red"}})")));
     REQUIRE(writeFileAtomically(
         folder / "s.plist",
@@ -55,6 +57,21 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
         {"printf '\\357\\273\\277a\\r\\n**b**' | qznote render - --to=text", 0, "a\nb"},
         {"printf '**a**' | qznote render --to ansi", 0, "\x1b[1ma\x1b[0m\n"},
         {"printf '![a](http://a.example/b.png)' | qznote render", 0, "[a 32x32]"},
+        {"printf '<<N/uppercase>> <<D>>' | qznote fill --values v.json", 0, "ANN <<D>>"},
+        {"printf '<<DateFormat:d.M.yyyy>>' | qznote fill --values v.json", 0, "1.3.2024"},
+        {"printf '{N} <<N>>' | qznote fill --values v.json --prefix { --suffix }", 0, "ann <<N>>"},
+        {"printf '<<N>>' | qznote fill", 2, "qznote: fill needs --values" + seeHelp},
+        {"printf '<<N>>' | qznote fill --values bad.json", 1, "qznote: bad.json has no values\n"},
+        {"qznote workdays 2024-03-01", 0, "yes\n"},
+        {"qznote workdays 2024-03-01 --days sat,sun", 0, "no\n"},
+        {"qznote workdays 2024-03-01T16:30 --add 90m --hours 9:00-17:00", 0,
+         "2024-03-04T10:00:00Z\n"},
+        {"qznote workdays 2024-03-01 --to 2024-03-12", 0, "7 days\n"},
+        {"qznote workdays 2024-03-01 --to 2024-03-02T01:00", 0, "23 hours\n"},
+        {"qznote workdays 2024-02-30", 2, "qznote: no such date: 2024-02-30" + seeHelp},
+        {"qznote workdays 2024-03-01 --add 5x", 2, "qznote: no such amount: 5x" + seeHelp},
+        {"qznote workdays now --hours 9-17", 2, "qznote: no such days or hours" + seeHelp},
+        {"qznote workdays", 2, "qznote: workdays needs a date" + seeHelp},
         {"mkfifo pipe; (printf '**a**' > pipe &) && qznote render pipe", 0, "a"},
         {"printf '# a\\n- *b*\\n' | qznote outline", 0, "a\n  \u25CF b\n"},
         {"printf '*a*' | qznote render --to ansi --style s.json", 0, red},

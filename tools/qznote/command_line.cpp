@@ -18,11 +18,12 @@ struct ActionName {
 };
 
 constexpr ActionName kActions[] = {
-    {"render", Command::Action::Render},    {"convert", Command::Action::Convert},
-    {"detect", Command::Action::Detect},    {"outline", Command::Action::Outline},
-    {"path", Command::Action::MeasurePath}, {"digest", Command::Action::Digest},
-    {"seal", Command::Action::Seal},        {"open", Command::Action::Open},
-    {"palette", Command::Action::Palette},
+    {"render", Command::Action::Render},     {"convert", Command::Action::Convert},
+    {"detect", Command::Action::Detect},     {"outline", Command::Action::Outline},
+    {"path", Command::Action::MeasurePath},  {"digest", Command::Action::Digest},
+    {"seal", Command::Action::Seal},         {"open", Command::Action::Open},
+    {"palette", Command::Action::Palette},   {"fill", Command::Action::Fill},
+    {"workdays", Command::Action::Workdays},
 };
 
 struct FormatName {
@@ -57,7 +58,11 @@ constexpr Option kOptions[] = {
     {Command::Action::Palette, "--to", 1},       {Command::Action::Palette, "-o", 1},
     {Command::Action::Palette, "--shade", 1},    {Command::Action::Seal, "-o", 1},
     {Command::Action::Seal, "--password-fd", 1}, {Command::Action::Open, "-o", 1},
-    {Command::Action::Open, "--password-fd", 1},
+    {Command::Action::Open, "--password-fd", 1}, {Command::Action::Fill, "-o", 1},
+    {Command::Action::Fill, "--values", 1},      {Command::Action::Fill, "--prefix", 1},
+    {Command::Action::Fill, "--suffix", 1},      {Command::Action::Fill, "--percent", 0},
+    {Command::Action::Workdays, "--add", 1},     {Command::Action::Workdays, "--to", 1},
+    {Command::Action::Workdays, "--days", 1},    {Command::Action::Workdays, "--hours", 1},
 };
 
 /// What is said of an option with too few or too many values, by their right number.
@@ -99,6 +104,7 @@ public:
         if (readAction()) {
             while (!rest_.empty() && fault_.empty()) readArgument();
         }
+        if (fault_.empty()) findMissing();
         if (!fault_.empty()) return UsageFault{fault_};
         return command_;
     }
@@ -126,6 +132,15 @@ private:
             fault_ = name.empty() ? "no command given" : "unknown command " + std::string(name);
         }
         return false;
+    }
+
+    /// What some commands cannot do without.
+    void findMissing() {
+        if (command_.action == Command::Action::Fill && command_.values.empty()) {
+            fault_ = "fill needs --values";
+        } else if (command_.action == Command::Action::Workdays && !hasInput_) {
+            fault_ = "workdays needs a date";
+        }
     }
 
     void readArgument() {
@@ -175,12 +190,19 @@ private:
         if (name == "--style") command_.styleSheet = values[0];
         if (name == "-o") command_.output = values[0];
         if (name == "--from") setFormat(command_.from, inputFormats(), values[0]);
-        if (name == "--to") setFormat(values[0]);
+        if (name == "--to") setTo(values[0]);
         if (name == "--trim") setPart(values[0], values[1]);
         if (name == "--fit") setFit(values[0]);
         if (name == "--smooth") command_.smooths = true;
         if (name == "--shade") command_.shade = values[0];
         if (name == "--password-fd") setDescriptor(values[0]);
+        if (name == "--values") command_.values = values[0];
+        if (name == "--prefix") command_.variables.prefix = values[0];
+        if (name == "--suffix") command_.variables.suffix = values[0];
+        if (name == "--percent") command_.variables.percentEncodes = true;
+        if (name == "--add") command_.workdays.amount = values[0];
+        if (name == "--days") command_.workdays.days = values[0];
+        if (name == "--hours") command_.workdays.hours = values[0];
     }
 
     void setDescriptor(std::string_view value) {
@@ -203,6 +225,15 @@ private:
     bool readsNotes() const {
         return command_.action == Command::Action::Render ||
                command_.action == Command::Action::Convert;
+    }
+
+    /// A date for work days, else a format.
+    void setTo(std::string_view value) {
+        if (command_.action == Command::Action::Workdays) {
+            command_.workdays.end = value;
+        } else {
+            setFormat(value);
+        }
     }
 
     void setFormat(std::string_view name) {
@@ -250,6 +281,9 @@ std::string helpText() {
   qznote seal [FILE] [-o FILE] [--password-fd NUMBER]
   qznote open [FILE] [-o FILE] [--password-fd NUMBER]
   qznote palette [--shade SHADE] [--to FORMAT] [-o FILE]
+  qznote fill [TEMPLATE] --values FILE [--prefix TEXT] [--suffix TEXT]
+              [--percent] [-o FILE]
+  qznote workdays DATE [--add AMOUNT | --to DATE] [--days LIST] [--hours HOURS]
   qznote --help | --version
 
 Notes and path data are UTF-8 text. Without a name, or with "-", the standard
@@ -302,6 +336,25 @@ password is the same and nobody has changed a bit:
 palette shows the colours of the material palette by shade, "50" to "900" and
 "a100" to "a700": as html, ansi or text, chosen as for render.
   --shade SHADE  shows this shade only
+
+fill writes a template with its variables replaced. "<<Name>>" becomes what the
+values have under Name. Behind the name may stand a format for dates (Short,
+Medium, Long, Full, ISO8601, RFC3339, Format: and a pattern, each also behind
+WithTime) and a letter case: "<<DueDateLong>>", "<<Name/uppercase>>".
+  --values FILE  a property list, or a JSON object; texts in JSON that are dates
+                 of ISO 8601, as 2024-03-01 or 2024-03-01T14:05, become dates
+  --prefix TEXT  what stands before a name instead of "<<"
+  --suffix TEXT  what ends a variable instead of ">>"
+  --percent      percent-encodes the values, for the query of a URL
+  -o FILE        as above
+
+workdays tells whether a date of ISO 8601, or "now", is working time.
+  --add AMOUNT   tells the date that is so much work time later: a number and d
+                 for days, h for hours or m for minutes; w for weeks, mo for
+                 months and y for years, which end on a work day
+  --to DATE      tells the work time up to another date
+  --days LIST    the work days, as sun,mon,tue,wed,thu; else Monday to Friday
+  --hours HOURS  the working hours, as 9:00-17:30; else all
 
 The exit code is 0, 1 when a file or the output fails, or 2 for a wrong command
 line.

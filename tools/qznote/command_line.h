@@ -6,7 +6,10 @@
 #include <string>
 #include <variant>
 
+#include "fill.h"
 #include "formats.h"
+#include "usage_fault.h"
+#include "workdays.h"
 
 namespace qznote {
 
@@ -31,6 +34,8 @@ struct Command {
         Seal,
         Open,
         Palette,
+        Fill,
+        Workdays,
         ShowHelp,
         ShowVersion
     };
@@ -60,11 +65,11 @@ struct Command {
     /// The file descriptor that the password is read from; the terminal is asked
     /// when there is none.
     std::optional<int> passwordDescriptor{};
-};
-
-/// Why a command line is none, in words for the user.
-struct UsageFault {
-    std::string reason;
+    /// The file with the values of variables, and how those are written.
+    std::string values{};
+    VariableForm variables{};
+    /// What is asked about work days; the date is the input.
+    WorkdaysQuestion workdays{};
 };
 
 /// Reads the arguments behind the name of the program.

@@ -46,6 +46,11 @@ int failure(std::string_view line) {
     return kFailure;
 }
 
+int wrongUsage(const UsageFault& fault) {
+    complain(fault.reason + "; see qznote --help");
+    return kWrongUsage;
+}
+
 int output(const std::string& name, std::string_view text) {
     if (writeAll(name, text)) return kSuccess;
     return failure(name == kStandardStream ? "cannot write the output" : "cannot write " + name);
@@ -173,12 +178,29 @@ int sealOrOpen(const Command& command) {
                                " is no sealed file or was changed");
 }
 
+int fill(const Command& command, const Data& text) {
+    const auto bytes = readAll(command.values);
+    if (!bytes) return failure("cannot read " + nameOf(command.values));
+    const auto values = readValues(*bytes);
+    if (!values) return failure(nameOf(command.values) + " has no values");
+    return output(command.output, filledTemplate(noteText(text), *values, command.variables));
+}
+
+int workdays(const Command& command) {
+    WorkdaysQuestion question = command.workdays;
+    question.date = command.input;
+    const auto result = answer(question);
+    if (const auto* line = std::get_if<std::string>(&result)) return output("-", *line);
+    return wrongUsage(std::get<UsageFault>(result));
+}
+
 int carryOut(const Command& command) {
     if (command.action == Command::Action::ShowHelp) return output("-", helpText());
     if (command.action == Command::Action::ShowVersion) {
         return output("-", "qznote " QZNOTE_VERSION "\n");
     }
     if (command.action == Command::Action::Palette) return palette(command);
+    if (command.action == Command::Action::Workdays) return workdays(command);
     if (command.action == Command::Action::Seal || command.action == Command::Action::Open) {
         return sealOrOpen(command);
     }
@@ -189,6 +211,7 @@ int carryOut(const Command& command) {
     }
     if (command.action == Command::Action::Outline) return outline(*input);
     if (command.action == Command::Action::MeasurePath) return measurePath(command, *input);
+    if (command.action == Command::Action::Fill) return fill(command, *input);
     if (command.action == Command::Action::Digest) return output("-", digestReport(*input));
     return render(command, *input);
 }
@@ -198,10 +221,7 @@ int carryOut(const Command& command) {
 int run(std::span<const char* const> arguments) {
     setLogSink(std::make_shared<StandardErrorLog>());
     const auto read = readCommandLine(arguments);
-    if (const auto* fault = std::get_if<UsageFault>(&read)) {
-        complain(fault->reason + "; see qznote --help");
-        return kWrongUsage;
-    }
+    if (const auto* fault = std::get_if<UsageFault>(&read)) return wrongUsage(*fault);
     return carryOut(std::get<Command>(read));
 }
 
