@@ -5,14 +5,12 @@
 namespace QZCore {
 namespace {
 
-std::vector<StringView> partsOf(StringView string) {
-    std::vector<StringView> parts;
-    for (std::size_t start = 0;;) {
-        const std::size_t comma = string.find(u',', start);
-        parts.push_back(string.substr(start, comma - start));
-        if (comma == StringView::npos) return parts;
-        start = comma + 1;
-    }
+/// The first parts of `text`, `count` of them, with the commas between them; the
+/// whole text where there are no more.
+StringView firstParts(StringView text, int count) {
+    std::size_t end = text.find(u',');
+    while (--count > 0 && end != StringView::npos) end = text.find(u',', end + 1);
+    return text.substr(0, end);
 }
 
 /// What a gradient string holds, before it is known to pair up.
@@ -24,20 +22,22 @@ struct Reading {
 /// Colours and locations take turns. A colour in the hex form has commas of its
 /// own; one without a location behind it is left out, yet has had its turn.
 Reading readingOf(StringView string) {
-    constexpr std::size_t kPartsOfHexForm = 4;
-    const std::vector<StringView> parts = partsOf(string);
+    constexpr int kPartsOfHexForm = 4;
     Reading reading;
     bool isColorNext = true;
-    for (std::size_t i = 0; i < parts.size(); ++i, isColorNext = !isColorNext) {
+    for (std::size_t start = 0; start <= string.size(); isColorNext = !isColorNext) {
+        const StringView rest = string.substr(start);
+        StringView part = firstParts(rest, 1);
         if (!isColorNext) {
-            reading.locations.push_back(doubleValue(parts[i]));
-        } else if (!parts[i].starts_with(u"rgba")) {
-            reading.colors.push_back(parts[i]);
-        } else if (i + kPartsOfHexForm < parts.size()) {
-            const char16_t* start = parts[i].data();
-            i += kPartsOfHexForm - 1;
-            reading.colors.emplace_back(start, parts[i].data() + parts[i].size());
+            reading.locations.push_back(doubleValue(part));
+        } else if (!part.starts_with(u"rgba")) {
+            reading.colors.push_back(part);
+        } else if (const StringView whole = firstParts(rest, kPartsOfHexForm);
+                   whole.size() < rest.size()) {
+            part = whole;
+            reading.colors.push_back(whole);
         }
+        start += part.size() + 1;
     }
     return reading;
 }
@@ -46,6 +46,7 @@ std::optional<Gradient> gradientOf(const Reading& reading) {
     if (reading.colors.empty() || reading.colors.size() != reading.locations.size())
         return std::nullopt;
     Gradient gradient;
+    gradient.stops.reserve(reading.colors.size());
     for (std::size_t i = 0; i < reading.colors.size(); ++i) {
         const auto color = Color::colorForString(reading.colors[i]);
         if (!color) return std::nullopt;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "support/bytes.h"
+#include "support/log_capture.h"
 #include "support/printing.h"
 
 namespace QZCore {
@@ -55,6 +56,13 @@ TEST_CASE("a stream that is cut or damaged gives what comes before") {
     }
     CHECK(dataWithBZip2Data(bytesOf("no stream")) == Data{});
     CHECK(dataWithBZip2Data(bytesOf("BZh9")) == Data{});
+}
+
+TEST_CASE("an error of the library is logged and gives empty data") {
+    const testing::LogCapture log;
+    const std::uint8_t byte = 0;  // the rest of what is too long is not looked at
+    CHECK(compressBZip2(DataView(&byte, UINT32_MAX)).empty());
+    CHECK(log.lines() == std::vector<String>{u"-[NSData compressBZip2]: error -2 returned"});
 }
 
 TEST_CASE("every bit of a small stream can change, and reading ends") {
