@@ -23,42 +23,35 @@ bool makeHeader(Header& header) {
     return fillWithRandomBytes(std::span(header).subspan(kEncryptionSaltAt));
 }
 
-bool makeKey(Key& key, const SecretText& password, DataView salt) {
-    return deriveKey({KeyHash::Sha1, password.view(), salt, kIterations}, key.span());
+/// The key that the password makes with the salt at `saltAt` in the header.
+bool makeKey(Key& key, StringView password, DataView header, std::size_t saltAt) {
+    const SecretText secret(password);
+    const DataView salt = header.subspan(saltAt, kSaltLength);
+    return deriveKey({KeyHash::Sha1, secret.view(), salt, kIterations}, key.span());
 }
 
-/// The two keys that a password and a header make.
-class Keys {
-public:
-    Keys(StringView password, DataView header) {
-        const SecretText secret(password);
-        areMade_ =
-            makeKey(encryption_, secret, header.subspan(kEncryptionSaltAt, kSaltLength)) &&
-            makeKey(authentication_, secret, header.subspan(kAuthenticationSaltAt, kSaltLength));
-    }
+AesCbc cipherOf(const Key& key, DataView header) {
+    return {key.view(), header.subspan(kVectorAt, kAesBlockLength), CipherPadding::Pkcs7};
+}
 
-    [[nodiscard]] bool areMade() const { return areMade_; }
-    [[nodiscard]] DataView encryption() const { return encryption_.view(); }
-    [[nodiscard]] DataView authentication() const { return authentication_.view(); }
-
-private:
-    Key encryption_;
-    Key authentication_;
-    bool areMade_ = false;
-};
-
-AesCbc cipherOf(const Keys& keys, DataView header) {
-    return {keys.encryption(), header.subspan(kVectorAt, kAesBlockLength), CipherPadding::Pkcs7};
+std::optional<Sha256Digest> codeOf(StringView password, DataView header,
+                                   std::initializer_list<DataView> authenticated) {
+    Key key;
+    if (!makeKey(key, password, header, kAuthenticationSaltAt)) return std::nullopt;
+    return hmacSha256(key.view(), authenticated);
 }
 
 /// Appends the encrypted data to `envelope`, which holds the place of the
 /// header, and then the code over `authenticated` and the envelope.
 bool complete(Data& envelope, const Header& header, DataView data, StringView password,
               DataView authenticated) {
-    const Keys keys(password, header);
+    Key key;
     envelope.reserve(kHeaderLength + data.size() + 2 * kAesBlockLength + kCodeLength);
-    if (!keys.areMade() || !appendEncrypted(envelope, cipherOf(keys, header), {data})) return false;
-    const auto code = hmacSha256(keys.authentication(), {authenticated, envelope});
+    if (!makeKey(key, password, header, kEncryptionSaltAt) ||
+        !appendEncrypted(envelope, cipherOf(key, header), {data})) {
+        return false;
+    }
+    const auto code = codeOf(password, header, {authenticated, envelope});
     if (!code) return false;
     envelope.insert(envelope.end(), code->begin(), code->end());
     return true;
@@ -96,14 +89,16 @@ std::optional<Data> dataDecryptedAES256WithPassword(DataView envelope,
     const DataView encrypted = authenticated.subspan(kHeaderLength);
     if (encrypted.size() % kAesBlockLength != 0) return std::nullopt;
 
-    // Nothing is decrypted that is not authentic.
-    const Keys keys(*password, header);
-    if (!keys.areMade()) return std::nullopt;
-    const auto code = hmacSha256(keys.authentication(), {authenticated});
+    // What is not authentic is not decrypted; no key for that is derived either.
+    const auto code = codeOf(*password, header, {authenticated});
     if (!code || !areEqualInConstantTime(*code, envelope.last(kCodeLength))) return std::nullopt;
 
+    Key key;
     Data data;
-    if (!appendDecrypted(data, cipherOf(keys, header), encrypted)) return std::nullopt;
+    if (!makeKey(key, *password, header, kEncryptionSaltAt) ||
+        !appendDecrypted(data, cipherOf(key, header), encrypted)) {
+        return std::nullopt;
+    }
     return data;
 }
 
