@@ -19,8 +19,10 @@ namespace QZCore {
 [[nodiscard]] QZ_EXPORT Data compressBZip2(DataView data);
 
 /// What the bzip2 stream at the start of `data` holds; what follows the stream
-/// is not read. A stream that is damaged or cut short gives what its readable
-/// part holds, without the 10,240 bytes in which the damage came to light.
+/// is not read. A stream that is cut short gives what comes before the cut. One
+/// that is damaged gives what was read until that came to light, without the
+/// 10,240 bytes in which it did: all blocks before the damage, and of the damaged
+/// one, whose check stands at its end, up to 900,000 bytes that are mostly wrong.
 /// Absent and empty data give no data.
 ///
 /// A few bytes can stand for gigabytes, and are given the memory that they need:
