@@ -18,6 +18,17 @@ const Data kStored128 = testing::fromHex(
     u"101112131415161718191a1b1c1d1e1f0e32239d7072ae83960a70f058a45b503330583a34203e26"
     u"9583578b01be83d5d82c5c918f114081c1651bac3eb3df04");
 
+/// `envelope`, which lacks its code, with the one that the password makes.
+Data authenticated(Data envelope) {
+    const std::string password = toUTF8(kPassword);
+    const DataView salt = DataView(envelope).subspan(10, 8);
+    Sha256Digest key;
+    REQUIRE(deriveKey({KeyHash::Sha1, bytesOf(password), salt, 10'000}, key));
+    const auto code = hmacSha256(key, {envelope}).value();
+    envelope.insert(envelope.end(), code.begin(), code.end());
+    return envelope;
+}
+
 }  // namespace
 
 TEST_CASE("stored envelopes open with their password only") {
@@ -79,6 +90,17 @@ TEST_CASE("no bit of an authenticated envelope can change") {
         CAPTURE(bit);
         REQUIRE_FALSE(dataDecryptedAES256WithPassword(flipped, kPassword));
     });
+}
+
+TEST_CASE("an authentic envelope opens whatever its options, but not with another padding") {
+    Data envelope(kStored256.begin(), kStored256.end() - 32);
+    REQUIRE(authenticated(envelope) == kStored256);
+    envelope[1] = 7;
+    CHECK(dataDecryptedAES256WithPassword(authenticated(envelope), kPassword).has_value());
+    envelope[33] ^= 1;  // the end of the vector, and so of the only block
+    CHECK_FALSE(dataDecryptedAES256WithPassword(authenticated(envelope), kPassword));
+    envelope.pop_back();
+    CHECK_FALSE(dataDecryptedAES256WithPassword(authenticated(envelope), kPassword));
 }
 
 TEST_CASE("a changed bit of the other form changes data, or leaves none") {
