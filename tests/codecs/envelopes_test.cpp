@@ -92,11 +92,14 @@ TEST_CASE("no bit of an authenticated envelope can change") {
     });
 }
 
-TEST_CASE("an authentic envelope opens whatever its options, but not with another padding") {
+TEST_CASE("an authentic envelope opens with any options, but of no other format or padding") {
     Data envelope(kStored256.begin(), kStored256.end() - 32);
     REQUIRE(authenticated(envelope) == kStored256);
     envelope[1] = 7;
     CHECK(dataDecryptedAES256WithPassword(authenticated(envelope), kPassword).has_value());
+    envelope[0] = 2;
+    CHECK_FALSE(dataDecryptedAES256WithPassword(authenticated(envelope), kPassword));
+    envelope[0] = 1;
     envelope[33] ^= 1;  // the end of the vector, and so of the only block
     CHECK_FALSE(dataDecryptedAES256WithPassword(authenticated(envelope), kPassword));
     envelope.pop_back();
