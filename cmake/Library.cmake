@@ -31,6 +31,8 @@ target_sources(QZCore PUBLIC FILE_SET HEADERS
   BASE_DIRS ${PROJECT_SOURCE_DIR}/include FILES ${QZCORE_PUBLIC_HEADERS})
 target_include_directories(QZCore PRIVATE ${PROJECT_SOURCE_DIR}/src)
 target_compile_features(QZCore PUBLIC cxx_std_20)
+# Some back ends ask for this option; with it, objects are the same without them.
+target_compile_options(QZCore PRIVATE -pthread)
 target_compile_definitions(QZCore PRIVATE ${QZCORE_BACK_ENDS} QZCORE_VERSION="${PROJECT_VERSION}")
 target_link_libraries(QZCore PRIVATE
   PkgConfig::QZCORE_PLATFORM OpenSSL::Crypto BZip2::BZip2 Threads::Threads
