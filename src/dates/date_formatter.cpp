@@ -93,19 +93,21 @@ std::shared_ptr<const TimeZone> DateFormatter::timeZone() const {
 }
 
 DateFormatter& DateFormatter::setDateStyleOrFormat(StringView styleOrFormat) {
-    const auto style = styleNamed(styleOrFormat);
     timeStyle_ = DateFormatterStyle::None;
-    dateStyle_ = style.value_or(DateFormatterStyle::None);
-    if (!style) pattern_ = styleOrFormat;
+    dateStyle_ = styleOrPattern(styleOrFormat);
     return *this;
 }
 
 DateFormatter& DateFormatter::setTimeStyleOrFormat(StringView styleOrFormat) {
-    const auto style = styleNamed(styleOrFormat);
     dateStyle_ = DateFormatterStyle::None;
-    timeStyle_ = style.value_or(DateFormatterStyle::None);
-    if (!style) pattern_ = styleOrFormat;
+    timeStyle_ = styleOrPattern(styleOrFormat);
     return *this;
+}
+
+DateFormatterStyle DateFormatter::styleOrPattern(StringView text) {
+    const auto style = styleNamed(text);
+    if (!style) pattern_ = text;
+    return style.value_or(DateFormatterStyle::None);
 }
 
 String DateFormatter::stringFromDate(Date date) const {

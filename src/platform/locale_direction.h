@@ -3,7 +3,8 @@
 
 namespace QZCore {
 
-/// Whether the script of the process's locale runs from right to left.
-[[nodiscard]] bool defaultLocaleRunsRightToLeft();
+/// Whether the language that the user prefers, else that of the user's locale,
+/// runs from right to left.
+[[nodiscard]] bool userLanguageRunsRightToLeft();
 
 }  // namespace QZCore

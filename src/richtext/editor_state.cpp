@@ -81,7 +81,7 @@ bool RichTextEditor::doesHaveTrait(std::uint32_t trait) const {
 }
 
 bool RichTextEditor::actualNaturalTextAlignment() {
-    static const bool isRightToLeft = defaultLocaleRunsRightToLeft();
+    static const bool isRightToLeft = userLanguageRunsRightToLeft();
     return isRightToLeft;
 }
 

@@ -59,6 +59,11 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
         {"printf '![a](http://a.example/b.png)' | qznote render", 0, "[a 32x32]"},
         {"printf '<<N/uppercase>> <<D>>' | qznote fill --values v.json", 0, "ANN <<D>>"},
         {"printf '<<DateFormat:d.M.yyyy>>' | qznote fill --values v.json", 0, "1.3.2024"},
+        {"printf '<<DateLong>>' | (export LANGUAGE= LC_ALL=de_DE.UTF-8@euro; qznote fill --values "
+         "v.json)",
+         0, "1. M\xC3\xA4rz 2024"},
+        {"printf '<<DateLong>>' | (export LANGUAGE=:fr:de LC_ALL=C; qznote fill --values v.json)",
+         0, "1 mars 2024"},
         {"printf '{N} <<N>>' | qznote fill --values v.json --prefix { --suffix }", 0, "ann <<N>>"},
         {"printf '<<N>>' | qznote fill", 2, "qznote: fill needs --values" + seeHelp},
         {"printf '<<N>>' | qznote fill --values bad.json", 1, "qznote: bad.json has no values\n"},

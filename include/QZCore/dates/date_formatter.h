@@ -111,6 +111,9 @@ public:
                         String* errorDescription = nullptr) const override;
 
 private:
+    /// The style that a word names; none for a text that becomes the pattern.
+    DateFormatterStyle styleOrPattern(StringView text);
+
     /// How it writes now; null for nothing.
     [[nodiscard]] std::shared_ptr<const DateFormat> format() const;
 
