@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "foundation/civil_date.h"
-
 namespace QZCore {
 namespace {
 

@@ -7,13 +7,12 @@
 #include "QZCore/dates/date_components.h"
 #include "QZCore/foundation/data.h"
 #include "QZCore/platform/time_zone.h"
+#include "foundation/civil_date.h"
 
 namespace QZCore {
 
 /// Sums that cannot overflow.
 __extension__ using Wide = __int128;
-
-inline constexpr std::int64_t kSecondsPerDay = 86'400;
 
 /// No instant lies farther from 1970: a double holds all seconds up to here.
 inline constexpr std::int64_t kFarthestSecond = 9'000'000'000'000'000;
@@ -55,12 +54,6 @@ struct LocalTime {
 /// day has it.
 [[nodiscard]] std::int64_t secondAfterDays(const TimeZone& zone, std::int64_t second,
                                            std::int64_t days);
-
-/// The day of the week: 1 is Sunday.
-[[nodiscard]] constexpr int weekdayOfDay(std::int64_t day) {
-    const std::int64_t sinceSunday = (day + 4) % 7;  // 1 January 1970 was a Thursday
-    return static_cast<int>(sinceSunday < 0 ? sinceSunday + 8 : sinceSunday + 1);
-}
 
 /// The second that the fields of a date stand for, missing ones as on 1 January
 /// of year 1; nothing when it is beyond reach.

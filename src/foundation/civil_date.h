@@ -8,6 +8,8 @@
 
 namespace QZCore {
 
+inline constexpr std::int64_t kSecondsPerDay = 86'400;
+
 /// A day by its year, month (1 to 12) and day of the month (from 1).
 struct CivilDate {
     std::int64_t year = 1970;
@@ -32,6 +34,13 @@ struct CivilDate {
 /// `a` divided by `b` above 0, rounded down.
 [[nodiscard]] constexpr std::int64_t floorDivided(std::int64_t a, std::int64_t b) {
     return a / b - (a % b < 0 ? 1 : 0);
+}
+
+/// The day of the week of the day that lies `days` days after 1 January 1970, a
+/// Thursday: 1 is Sunday, 7 Saturday.
+[[nodiscard]] constexpr int weekdayOfDay(std::int64_t days) {
+    const std::int64_t sinceSunday = days + 4;
+    return static_cast<int>(sinceSunday - floorDivided(sinceSunday, 7) * 7) + 1;
 }
 
 // The two functions below let the year begin in March, so that the day that

@@ -11,7 +11,6 @@
 namespace QZCore {
 namespace {
 
-constexpr std::int64_t kSecondsPerDay = 86'400;
 
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\n\r";

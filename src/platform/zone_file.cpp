@@ -1,6 +1,7 @@
 #include "platform/zone_file.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace QZCore {
 namespace {
@@ -94,7 +95,11 @@ bool readBlock(FileReader& file, const Counts& counts, std::size_t timeLength, Z
     }
     file.bytes(counts.leapSeconds * (timeLength + 4) + counts.standardMarks + counts.utcMarks);
     const auto isKnown = [&](std::uint8_t type) { return type < table.types.size(); };
+    const auto isNear = [](std::int64_t change) {
+        return change >= -kFarthestChange && change <= kFarthestChange;
+    };
     return std::ranges::all_of(table.typeOfChange, isKnown) &&
+           std::ranges::all_of(table.changes, isNear) &&
            std::ranges::adjacent_find(table.changes, std::greater_equal()) == table.changes.end();
 }
 

@@ -11,6 +11,9 @@
 
 namespace QZCore {
 
+/// No change lies farther from 1970: RFC 8536 allows none to be earlier.
+inline constexpr std::int64_t kFarthestChange = std::int64_t{1} << 59;
+
 /// What a zone file says.
 struct ZoneTable {
     /// One kind of local time.

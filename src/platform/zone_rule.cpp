@@ -1,5 +1,6 @@
 #include "platform/zone_rule.h"
 
+#include <algorithm>
 #include <array>
 
 #include "foundation/civil_date.h"
@@ -7,16 +8,8 @@
 namespace QZCore {
 namespace {
 
-constexpr std::int64_t kDay = 86'400;
-
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-
-/// 0 is Sunday; 1 January 1970 was a Thursday.
-int weekdayOf(std::int64_t day) {
-    const std::int64_t weekday = (day + 4) % 7;
-    return static_cast<int>(weekday < 0 ? weekday + 7 : weekday);
-}
 
 }  // namespace
 
@@ -134,17 +127,17 @@ std::int64_t ZoneRule::Day::dayIn(std::int64_t year) const {
             break;
     }
     const std::int64_t first = daysFromCivil({year, month, 1});
-    int day = (weekday - weekdayOf(first) + 7) % 7 + (week - 1) * 7;
+    int day = (weekday + 8 - weekdayOfDay(first)) % 7 + (week - 1) * 7;
     if (day >= daysInMonth(year, month)) day -= 7;
     return first + day;
 }
 
 std::int64_t ZoneRule::startIn(std::int64_t year) const {
-    return start_.dayIn(year) * kDay + start_.time - standard_.offset;
+    return start_.dayIn(year) * kSecondsPerDay + start_.time - standard_.offset;
 }
 
 std::int64_t ZoneRule::endIn(std::int64_t year) const {
-    return end_.dayIn(year) * kDay + end_.time - daylight_->offset;
+    return end_.dayIn(year) * kSecondsPerDay + end_.time - daylight_->offset;
 }
 
 ZonePeriod ZoneRule::period(bool isDaylightSaving, std::int64_t begin, std::int64_t end) const {
@@ -155,25 +148,25 @@ ZonePeriod ZoneRule::period(bool isDaylightSaving, std::int64_t begin, std::int6
 ZonePeriod ZoneRule::periodAt(std::int64_t secondsSince1970) const {
     if (!daylight_) return period(false, INT64_MIN, INT64_MAX);
     const std::int64_t local = secondsSince1970 + standard_.offset;
-    const std::int64_t year = civilFromDays(floorDivided(local, kDay)).year;
-    // The changes of three years in order, whichever half of the year comes
-    // first. Daylight saving time that never ends begins where it ended.
+    const std::int64_t year = civilFromDays(floorDivided(local, kSecondsPerDay)).year;
+    // A change may lie in the year before or after its own. Of two at once the
+    // second holds: daylight saving time that never ends begins where it ended.
     struct Change {
-        std::int64_t at;
-        bool toDaylight;
+        std::int64_t at = 0;
+        bool toDaylight = false;
     };
-    std::array<Change, 6> changes;
+    std::array<Change, 10> changes;
     std::size_t count = 0;
-    for (std::int64_t each = year - 1; each <= year + 1; ++each) {
+    for (std::int64_t each = year - 2; each <= year + 2; ++each) {
         const Change start{startIn(each), true};
         const Change end{endIn(each), false};
         const bool startsFirst = start.at < end.at;
         changes[count++] = startsFirst ? start : end;
         changes[count++] = startsFirst ? end : start;
     }
-    std::size_t next = 1;
-    while (next + 1 < count && changes[next].at <= secondsSince1970) ++next;
-    return period(changes[next - 1].toDaylight, changes[next - 1].at, changes[next].at);
+    std::ranges::stable_sort(changes, {}, &Change::at);
+    const auto next = std::ranges::upper_bound(changes, secondsSince1970, {}, &Change::at);
+    return period((next - 1)->toDaylight, (next - 1)->at, next->at);
 }
 
 }  // namespace QZCore

@@ -61,11 +61,15 @@ TEST_CASE("zones and fields are those of the system") {
     std::mt19937_64 random(1);
     for (const char* name :
          {"America/New_York", "Europe/Dublin", "Australia/Lord_Howe", "America/St_Johns",
-          "Pacific/Apia", "Africa/Casablanca", "America/Nuuk", "Asia/Kolkata", "UTC"}) {
+          "Pacific/Apia", "Africa/Casablanca", "America/Nuuk", "Asia/Kolkata", "UTC",
+          "IST-1GMT0,M10.5.0,M3.5.0/1", "EST5EDT,J60/0,300/25", "AAA3"}) {
+        // The system begins to apply a rule in 1971, which holds for ever here.
+        const bool isRule = std::string_view(name).find_first_of(",3") != std::string_view::npos;
+        const std::int64_t earliest = isRule ? 40'000'000 : -4'000'000'000;
         const SystemZone system(name);
         const ZoneScope zone(fromUTF8(name));
         for (int i = 0; i < 3000; ++i) {
-            auto second = static_cast<std::int64_t>(random() % 14'000'000'000) - 4'000'000'000;
+            auto second = static_cast<std::int64_t>(random() % 14'000'000'000) + earliest;
             const ZonePeriod around = zone.zone().periodAt(second);
             if (i % 2 == 0 && around.end != INT64_MAX) second = around.end - 1 + i / 2 % 2;
             const ZonePeriod period = zone.zone().periodAt(second);
@@ -258,6 +262,12 @@ TEST_CASE("zones by name, by rule, and none") {
     for (std::int64_t second = 3'000'000'000; second < 30'000'000'000; second += 7'777'777) {
         REQUIRE(rule->periodAt(second).offset == nuuk->periodAt(second).offset);
     }
+    // Both changes of a year come in the year before it.
+    const auto early = TimeZone::timeZoneWithName(u"AAA0BBB,J1/-100,J2/-100");
+    REQUIRE(early != nullptr);
+    const ZonePeriod daylight = early->periodAt(1'798'405'200);
+    CHECK(daylight.isDaylightSaving);
+    CHECK(daylight.begin == 1'798'401'600);
     for (const StringView bad : {u"AB1", u"ABC", u"ABC25", u"ABC1DEF,M13.1.0,M1.1.0",
                                  u"ABC1DEF,M3.1.0", u"ABC1DEF,J0,J1", u"ABC1DEF,M3.1.0,M4.1.0x"}) {
         CAPTURE(bad);
