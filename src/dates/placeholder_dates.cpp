@@ -9,37 +9,56 @@
 namespace QZCore {
 namespace {
 
-// Stored in documents: the years and seconds must not change.
-constexpr std::int64_t kFixedYear = 1;
+// Stored in documents: the years and the seconds of kinds must not change.
+
+/// The year before the common era that names a kind.
+enum KindYear : std::int64_t {
+    kFixedKind = 1,
+    kDaysAgo = 2,
+    kWeeksAgo = 3,
+    kMonthsAgo = 4,
+    kYearsAgo = 5,
+    kDaysFromNow = 6,
+    kWeeksFromNow = 7,
+    kMonthsFromNow = 8,
+    kYearsFromNow = 9,
+};
+
+/// What the seconds of the fixed kind stand for.
+enum FixedSecond : std::int64_t { kToday = 0, kYesterday = 1, kStartOfWeek = 2, kTomorrow = 3 };
 
 struct FixedKind {
-    std::int64_t second;
+    FixedSecond second;
     Date (*target)();
 };
 
 /// In the order in which they are tried.
 constexpr std::array kFixedKinds{
-    FixedKind{0, dateForTodayAtMidnight},
-    FixedKind{1, dateForYesterdayAtMidnight},
-    FixedKind{3, dateForTomorrowAtMidnight},
-    FixedKind{2, dateForStartOfWeek},
+    FixedKind{kToday, dateForTodayAtMidnight},
+    FixedKind{kYesterday, dateForYesterdayAtMidnight},
+    FixedKind{kTomorrow, dateForTomorrowAtMidnight},
+    FixedKind{kStartOfWeek, dateForStartOfWeek},
 };
 
 struct RelativeKind {
-    std::int64_t year;
+    KindYear year;
     Date (*target)(std::int64_t);
 };
 
 constexpr std::array kRelativeKinds{
-    RelativeKind{2, dateForDaysAgo},       RelativeKind{3, dateForWeeksAgo},
-    RelativeKind{4, dateForMonthsAgo},     RelativeKind{5, dateForYearsAgo},
-    RelativeKind{6, dateForDaysFromNow},   RelativeKind{7, dateForWeeksFromNow},
-    RelativeKind{8, dateForMonthsFromNow}, RelativeKind{9, dateForYearsFromNow},
+    RelativeKind{kDaysAgo, dateForDaysAgo},
+    RelativeKind{kWeeksAgo, dateForWeeksAgo},
+    RelativeKind{kMonthsAgo, dateForMonthsAgo},
+    RelativeKind{kYearsAgo, dateForYearsAgo},
+    RelativeKind{kDaysFromNow, dateForDaysFromNow},
+    RelativeKind{kWeeksFromNow, dateForWeeksFromNow},
+    RelativeKind{kMonthsFromNow, dateForMonthsFromNow},
+    RelativeKind{kYearsFromNow, dateForYearsFromNow},
 };
 
 /// The placeholder of a kind; the farthest past for an amount that no date can
 /// hold.
-Date placeholder(std::int64_t year, std::int64_t second) {
+Date placeholder(KindYear year, std::int64_t second) {
     return sharedGregorianCalendar()
         .dateFromComponents({.era = 0,
                              .year = year,
@@ -54,22 +73,28 @@ Date placeholder(std::int64_t year, std::int64_t second) {
 
 }  // namespace
 
-Date placeholderDateForToday() { return placeholder(kFixedYear, 0); }
-Date placeholderDateForYesterday() { return placeholder(kFixedYear, 1); }
-Date placeholderDateForStartOfWeek() { return placeholder(kFixedYear, 2); }
-Date placeholderDateForTomorrow() { return placeholder(kFixedYear, 3); }
-Date placeholderDateForDaysAgo(std::int64_t days) { return placeholder(2, days); }
-Date placeholderDateForWeeksAgo(std::int64_t weeks) { return placeholder(3, weeks); }
-Date placeholderDateForMonthsAgo(std::int64_t months) { return placeholder(4, months); }
-Date placeholderDateForYearsAgo(std::int64_t years) { return placeholder(5, years); }
-Date placeholderDateForDaysFromNow(std::int64_t days) { return placeholder(6, days); }
-Date placeholderDateForWeeksFromNow(std::int64_t weeks) { return placeholder(7, weeks); }
-Date placeholderDateForMonthsFromNow(std::int64_t months) { return placeholder(8, months); }
-Date placeholderDateForYearsFromNow(std::int64_t years) { return placeholder(9, years); }
+Date placeholderDateForToday() { return placeholder(kFixedKind, kToday); }
+Date placeholderDateForYesterday() { return placeholder(kFixedKind, kYesterday); }
+Date placeholderDateForStartOfWeek() { return placeholder(kFixedKind, kStartOfWeek); }
+Date placeholderDateForTomorrow() { return placeholder(kFixedKind, kTomorrow); }
+Date placeholderDateForDaysAgo(std::int64_t days) { return placeholder(kDaysAgo, days); }
+Date placeholderDateForWeeksAgo(std::int64_t weeks) { return placeholder(kWeeksAgo, weeks); }
+Date placeholderDateForMonthsAgo(std::int64_t months) { return placeholder(kMonthsAgo, months); }
+Date placeholderDateForYearsAgo(std::int64_t years) { return placeholder(kYearsAgo, years); }
+Date placeholderDateForDaysFromNow(std::int64_t days) { return placeholder(kDaysFromNow, days); }
+Date placeholderDateForWeeksFromNow(std::int64_t weeks) {
+    return placeholder(kWeeksFromNow, weeks);
+}
+Date placeholderDateForMonthsFromNow(std::int64_t months) {
+    return placeholder(kMonthsFromNow, months);
+}
+Date placeholderDateForYearsFromNow(std::int64_t years) {
+    return placeholder(kYearsFromNow, years);
+}
 
 Date dateForPlaceholderDate(Date date) {
     for (const FixedKind& kind : kFixedKinds) {
-        if (date == placeholder(kFixedYear, kind.second)) return kind.target();
+        if (date == placeholder(kFixedKind, kind.second)) return kind.target();
     }
     const DateComponents fields = components(date, kCalendarYear | kCalendarSecond);
     for (const RelativeKind& kind : kRelativeKinds) {
