@@ -4,6 +4,7 @@
 
 #include "QZCore/dates/calendar.h"
 #include "QZCore/platform/clock.h"
+#include "dates/local_time.h"
 
 namespace QZCore {
 namespace {
@@ -43,7 +44,8 @@ bool isAt(Date date, const DateComponents& time) { return components(date, kTime
 }  // namespace
 
 std::int64_t currentTimeInMilliseconds() {
-    return static_cast<std::int64_t>(now().secondsSince1970 * 1000);
+    const Date date = now();
+    return instantOf(date) ? static_cast<std::int64_t>(date.secondsSince1970 * 1000) : 0;
 }
 
 DateComponents components(Date date, std::uint32_t units) {

@@ -1,5 +1,6 @@
 #include "dates/local_time.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace QZCore {
@@ -19,7 +20,9 @@ std::optional<Instant> instantOf(Date date) {
     constexpr auto kFarthest = static_cast<double>(kFarthestSecond);
     if (!(seconds >= -kFarthest && seconds <= kFarthest)) return std::nullopt;
     const double whole = std::floor(seconds);
-    return Instant{static_cast<std::int64_t>(whole), seconds - whole};
+    // Next to a whole second the difference may round to 1.
+    const double fraction = std::min(seconds - whole, std::nextafter(1.0, 0.0));
+    return Instant{static_cast<std::int64_t>(whole), fraction};
 }
 
 LocalTime localTimeAt(const TimeZone& zone, std::int64_t second) {

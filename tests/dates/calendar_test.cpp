@@ -22,6 +22,7 @@ constexpr std::uint32_t kAll = kCalendarYear | kCalendarMonth | kCalendarDay | k
 class SystemZone {
 public:
     explicit SystemZone(const std::string& name) {
+        (void)sharedTimeZone();  // reads the process's own one
         if (const char* before = getenv("TZ")) before_ = before;
         setenv("TZ", name.c_str(), 1);
         tzset();
@@ -90,6 +91,15 @@ TEST_CASE("zones and fields are those of the system") {
             REQUIRE(fields.second == local.tm_sec);
             REQUIRE(fields.weekday == local.tm_wday + 1);
         }
+    }
+}
+
+TEST_CASE("the process's zone is the one that the system uses") {
+    for (time_t time = 40'000'000; time < 10'000'000'000; time += 7'654'321) {
+        tm local{};
+        localtime_r(&time, &local);
+        CAPTURE(time);
+        REQUIRE(sharedTimeZone()->periodAt(time).offset == local.tm_gmtoff);
     }
 }
 
@@ -182,6 +192,11 @@ TEST_CASE("fields carry over, and what is missing is that of 1 January of year 1
     CHECK_FALSE(calendar.hasEqualComponents({.year = 2026, .minute = 5}, at(2026, 1, 2, 3, 4)));
     CHECK_FALSE(calendar.hasEqualComponents({.weekday = 6}, at(2026, 1, 2)));
     CHECK(components(at(2026, 1, 4), kCalendarWeekOfYear).weekOfYear == 2);
+    CHECK(components(at(2026, 12, 26), kCalendarWeekOfYear).weekOfYear == 52);
+    CHECK(components(at(2026, 12, 27), kCalendarWeekOfYear).weekOfYear == 1);
+    CHECK(components({-1e-20}, kCalendarNanosecond).nanosecond == 999'999'999);
+    const Date firstOfTwo{1792888200};
+    CHECK(calendar.dateByAddingComponents({.year = 0, .month = 0}, firstOfTwo) == firstOfTwo);
     for (const double seconds : {double{NAN}, 1e300, -1e17}) {
         CHECK(components({seconds}, kAll) == DateComponents());
     }
@@ -249,6 +264,8 @@ TEST_CASE("dates around today") {
     CHECK(shown(dateWithReplacedTime(date, at(2000, 1, 1, 4, 5, 6))) == "2026-01-02 04:05:06");
     CHECK(isSameTimeAsDate(date, at(1999, 1, 2, 23, 59, 59)));
     CHECK(currentTimeInMilliseconds() == 1772984655000);
+    const testing::FixedNow never({NAN});
+    CHECK(currentTimeInMilliseconds() == 0);
 }
 
 TEST_CASE("zones by name, by rule, and none") {

@@ -32,8 +32,9 @@ struct QZ_EXPORT DateComponents {
     std::int64_t nanosecond = kUndefinedDateComponent;
     /// 1, Sunday, to 7, Saturday.
     std::int64_t weekday = kUndefinedDateComponent;
-    /// The number of the week of the year, which begins on a Sunday; the first
-    /// is the one that holds 1 January. As an amount, a number of weeks.
+    /// The number of the week of the year. Weeks begin on a Sunday, and the one
+    /// that holds 1 January is the first, the last days of the year before
+    /// included. As an amount, a number of weeks.
     std::int64_t weekOfYear = kUndefinedDateComponent;
 
     // The makers below leave every field that they do not name undefined. An

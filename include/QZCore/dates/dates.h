@@ -18,7 +18,8 @@ namespace QZCore {
 
 // ---- Now --------------------------------------------------------------------
 
-/// The milliseconds since 1 January 1970, 00:00 UTC, without fractions.
+/// The milliseconds since 1 January 1970, 00:00 UTC, without fractions; 0 when
+/// the clock shows no date.
 [[nodiscard]] QZ_EXPORT std::int64_t currentTimeInMilliseconds();
 
 // ---- Fields -----------------------------------------------------------------
