@@ -79,39 +79,34 @@ private:
         return end_ == INT64_MAX ? INT64_MAX : (end_ - 1 - second_) / kSecondsPerDay + 1;
     }
 
-    /// Takes whole weeks of `room` steps, and leaves at least the last two steps
-    /// that count to be looked at. Returns the steps taken.
+    /// Takes whole weeks of `room` steps. Returns the steps taken.
     std::int64_t skipWeeks(std::int64_t room) {
         const auto perWeek = static_cast<std::uint64_t>(hours_.workDaysOfWeek());
-        std::int64_t weeks = (room - 1) / 7;
-        if (target_ != UINT64_MAX) {
-            if (perWeek == 0 || target_ - count_ < 2) return 0;
-            const std::uint64_t wanted = (target_ - count_ - 2) / perWeek;
-            weeks = static_cast<std::int64_t>(
-                std::min(static_cast<std::uint64_t>(std::max<std::int64_t>(weeks, 0)), wanted));
-        }
-        if (weeks <= 0) return 0;
-        second_ += direction_ * weeks * kSecondsPerWeek;
-        count_ += static_cast<std::uint64_t>(weeks) * perWeek;
+        const std::int64_t weeks = blocksToSkip(perWeek, (room - 1) / 7);
+        skip(weeks, kSecondsPerWeek, perWeek);
         return weeks * 7;
     }
 
     /// Takes whole cycles of the calendar, once what one holds is known.
     void skipCycles() {
-        if (direction_ < 0 || second_ < kCyclesFrom || end_ != INT64_MAX) return;
-        if (markSecond_ == 0 || second_ - markSecond_ > kSecondsPerCycle) {
-            markSecond_ = second_;
-            markCount_ = count_;
-        } else if (second_ - markSecond_ == kSecondsPerCycle && count_ > markCount_) {
-            const std::uint64_t perCycle = count_ - markCount_;
-            const auto reach =
-                static_cast<std::uint64_t>((kFarthestSecond - second_) / kSecondsPerCycle);
-            const std::uint64_t cycles = std::min((target_ - count_ - 1) / perCycle, reach);
-            second_ += static_cast<std::int64_t>(cycles) * kSecondsPerCycle;
-            count_ += cycles * perCycle;
-            markSecond_ = second_;
-            markCount_ = count_;
-        }
+        if (second_ < kCyclesFrom) return;
+        const auto perCycle = cycle_.stepsPerCycle(direction_ * second_, count_);
+        if (!perCycle) return;
+        const std::int64_t limit =
+            direction_ > 0 ? std::min(end_, kFarthestSecond) - 1 : kCyclesFrom;
+        const std::int64_t ahead = direction_ * (limit - second_) / kSecondsPerCycle;
+        skip(blocksToSkip(*perCycle, ahead), kSecondsPerCycle, *perCycle);
+    }
+
+    /// At least the last two steps that count are to be looked at.
+    [[nodiscard]] std::int64_t blocksToSkip(std::uint64_t perBlock, std::int64_t most) const {
+        if (target_ - count_ < 2) return 0;
+        return blocksWithin(target_ - count_ - 2, perBlock, most);
+    }
+
+    void skip(std::int64_t blocks, std::int64_t secondsPerBlock, std::uint64_t perBlock) {
+        second_ += direction_ * blocks * secondsPerBlock;
+        count_ += static_cast<std::uint64_t>(blocks) * perBlock;
     }
 
     /// Takes one step that may lead over a change of the zone. Most changes
@@ -148,9 +143,7 @@ private:
     std::uint64_t target_ = UINT64_MAX;
     std::int64_t end_ = INT64_MAX;
     bool endIsExact_ = false;
-    // Where a cycle was begun to be measured; 0 for nowhere.
-    std::int64_t markSecond_ = 0;
-    std::uint64_t markCount_ = 0;
+    CycleCounter cycle_{kSecondsPerCycle};
 };
 
 }  // namespace

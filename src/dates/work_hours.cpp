@@ -37,6 +37,11 @@ void bringNear(Time& time) {
 
 bool isMidnight(const Time& time) { return !time || (time->hour == 0 && time->minute == 0); }
 
+/// Whether a time has no minute of its own but that of the instant in question.
+bool takesMinute(const Time& time) { return time && !isDefined(time->minute); }
+
+Time hourOf(const Time& time) { return DateComponents{.hour = time->hour}; }
+
 /// Whether an instant lies behind the second of a time without a minute, which
 /// takes that of the instant: in its hour, the seconds alone decide.
 bool isBehindSecond(const Time& time, std::int64_t secondOfMinute, bool hasFraction) {
@@ -91,24 +96,44 @@ std::int64_t WorkHours::timeOn(std::int64_t day, const Time& time, std::int64_t 
     return secondOfComponents(zone_, fields).value_or(kFarthestSecond + 1);
 }
 
+WorkHours::Bounds WorkHours::boundsFor(Instant instant) const {
+    const LocalTime local = localTimeAt(zone_, instant.second);
+    const auto on = [&](const Time& time) {
+        return Instant{timeOn(local.day, time, local.second / 60 % 60, local.second % 60), 0};
+    };
+    return {on(start_), on(end_)};
+}
+
 bool WorkHours::surrounds(Instant receiver) const {
-    const LocalTime local = localTimeAt(zone_, receiver.second);
-    const std::int64_t minute = local.second / 60 % 60;
-    const std::int64_t second = local.second % 60;
-    const Instant start{timeOn(local.day, start_, minute, second), 0};
-    const Instant end{timeOn(local.day, end_, minute, second), 0};
-    return start <= receiver && receiver <= end;
+    const Bounds bounds = boundsFor(receiver);
+    return bounds.start <= receiver && receiver <= bounds.end;
+}
+
+bool WorkHours::contains(Instant instant) const {
+    const Bounds bounds = boundsFor(instant);
+    return bounds.start < instant && instant <= bounds.end;
+}
+
+/// Whether the hour of a time is shown on a day, from its first to its last
+/// second.
+bool WorkHours::hasWholeHour(const Time& time, std::int64_t day) const {
+    const std::int64_t first = timeOn(day, hourOf(time), 0, 0);
+    const std::int64_t last = timeOn(day, hourOf(time), 59, 59);
+    const std::int64_t shown = localTimeAt(zone_, first).second / 3600;
+    return last - first == 3599 && (shown - time->hour) % 24 == 0;
+}
+
+bool WorkHours::hasSpanOnDay(std::int64_t day) const {
+    return (!takesMinute(start_) || hasWholeHour(start_, day)) &&
+           (!takesMinute(end_) || hasWholeHour(end_, day));
 }
 
 WorkHours::Span WorkHours::spanOnDay(std::int64_t day, std::int64_t secondOfMinute,
                                      bool hasFraction) const {
     const auto firstBehind = [&](const Time& time) {
-        if (time && !isDefined(time->minute)) {
-            Time hour = *time;
-            if (!isBehindSecond(time, secondOfMinute, hasFraction)) ++hour->hour;
-            hour->minute = 0;
-            hour->second = 0;
-            return timeOn(day, hour, 0, 0);
+        if (takesMinute(time)) {
+            const bool isInHour = isBehindSecond(time, secondOfMinute, hasFraction);
+            return timeOn(day, hourOf(time), 0, 0) + (isInHour ? 0 : 3600);
         }
         return timeOn(day, time, 0, secondOfMinute) + (hasFraction ? 0 : 1);
     };

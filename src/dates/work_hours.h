@@ -29,15 +29,23 @@ public:
     /// comes behind it.
     [[nodiscard]] int closingWeekday() const { return closingWeekday_; }
 
+    /// Whether an instant is later than the start and not later than the end on
+    /// its day. Times without a minute or a second take those of the instant.
+    [[nodiscard]] bool contains(Instant instant) const;
+
+    /// Whether the contained instants of a day with equal seconds are one span:
+    /// not where a time without a minute falls into an hour that the zone skips
+    /// or repeats.
+    [[nodiscard]] bool hasSpanOnDay(std::int64_t day) const;
+
     /// The first and the last second of working time on a day; none when they
     /// are the other way round.
     struct Span {
         std::int64_t first;
         std::int64_t last;
     };
-    /// The working hours on `day` for instants that have `secondOfMinute` and,
-    /// maybe, a fraction: the start itself is no working time, and times
-    /// without a minute or a second take those of the instant.
+    /// The span of the instants on `day` that are contained and have
+    /// `secondOfMinute` and, maybe, a fraction. Only for days that have one.
     [[nodiscard]] Span spanOnDay(std::int64_t day, std::int64_t secondOfMinute,
                                  bool hasFraction) const;
 
@@ -46,7 +54,13 @@ private:
 
     [[nodiscard]] std::int64_t timeOn(std::int64_t day, const Time& time, std::int64_t minute,
                                       std::int64_t second) const;
+    struct Bounds {
+        Instant start;
+        Instant end;
+    };
+    [[nodiscard]] Bounds boundsFor(Instant instant) const;
     [[nodiscard]] bool surrounds(Instant receiver) const;
+    [[nodiscard]] bool hasWholeHour(const Time& time, std::int64_t day) const;
 
     const TimeZone& zone_;
     bool hasWorkDays_ = false;

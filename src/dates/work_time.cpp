@@ -101,9 +101,7 @@ bool isWorking(Date date, const std::optional<WorkDays>& withWorkDays,
     const LocalTime local = localTimeAt(*zone, instant->second);
     if (!hours.isWorkDay(weekdayOfDay(local.day))) return false;
     if (local.second == 0 || !hours.hasTimes()) return true;
-    const WorkHours::Span span =
-        hours.spanOnDay(local.day, local.second % 60, instant->fraction > 0);
-    return span.first <= instant->second && instant->second <= span.last;
+    return hours.contains(*instant);
 }
 
 Date dateByAddingComponents(Date date, const DateComponents& components,

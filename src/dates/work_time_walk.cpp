@@ -30,8 +30,8 @@ public:
     /// Whether the target was met; then `at` holds the step that did.
     bool run(std::int64_t& at) {
         while (step_ < lastStep_) {
+            skipCycles();
             if (!isWithinReach(secondOf(step_ + 1))) return false;
-            if (!skipCycles()) return false;
             const ZonePeriod period = walk_.zone_.periodAt(secondOf(step_ + 1));
             const std::int64_t weeks = weeksWithin(period);
             if (weeks < 2) {
@@ -40,7 +40,9 @@ public:
             }
             const std::uint64_t before = count_;
             if (countTo(step_ + stepsPerWeek_, at)) return true;
-            if (!skipWeeks(weeks - 1, count_ - before, period)) return false;
+            const std::uint64_t perWeek = count_ - before;
+            if (perWeek == 0 && isWithoutEnd(period)) return false;
+            skip(weeks - 1, stepsPerWeek_, perWeek);
         }
         return false;
     }
@@ -56,6 +58,11 @@ private:
         return floorDivided(direction_ * (second - walk_.receiver_.second), walk_.step_);
     }
 
+    /// Whether nothing changes any more, seen in the direction of the walk.
+    [[nodiscard]] bool isWithoutEnd(const ZonePeriod& period) const {
+        return direction_ > 0 ? period.end == INT64_MAX : period.begin == INT64_MIN;
+    }
+
     /// How many whole weeks lie ahead, away from both ends of the period.
     [[nodiscard]] std::int64_t weeksWithin(const ZonePeriod& period) const {
         const std::int64_t next = secondOf(step_ + 1);
@@ -67,47 +74,32 @@ private:
         return direction_ * (end - next) / kSecondsPerWeek;
     }
 
-    /// Takes up to `weeks` weeks that each hold `perWeek` steps that count, and
-    /// stays before the target. Returns whether there is hope of meeting it.
-    bool skipWeeks(std::int64_t weeks, std::uint64_t perWeek, const ZonePeriod& period) {
-        weeks = std::min(weeks, (lastStep_ - step_) / stepsPerWeek_);
-        if (perWeek > 0) {
-            weeks = static_cast<std::int64_t>(
-                std::min(static_cast<std::uint64_t>(weeks), (target_ - count_ - 1) / perWeek));
-        } else if (direction_ > 0 ? period.end == INT64_MAX : period.begin == INT64_MIN) {
-            return false;
+    /// Takes whole cycles of the calendar, once what one holds is known.
+    void skipCycles() {
+        const std::int64_t second = secondOf(step_);
+        if (second < kCyclesFrom) {
+            cycle_.forget();
+            return;
         }
-        step_ += weeks * stepsPerWeek_;
-        count_ += static_cast<std::uint64_t>(weeks) * perWeek;
-        return true;
+        const auto perCycle = cycle_.stepsPerCycle(step_, count_);
+        if (!perCycle) return;
+        const std::int64_t limit = direction_ > 0 ? kFarthestSecond : kCyclesFrom;
+        skip(direction_ * (limit - second) / kSecondsPerCycle, stepsPerCycle_, *perCycle);
     }
 
-    /// Takes whole cycles of the calendar in the same way, once what one holds
-    /// is known.
-    bool skipCycles() {
-        if (direction_ < 0 || secondOf(step_) < kCyclesFrom) return true;
-        if (markStep_ == 0) {
-            markStep_ = step_;
-            markCount_ = count_;
-        }
-        if (step_ - markStep_ < stepsPerCycle_) return true;
-        const std::uint64_t perCycle = count_ - markCount_;
-        if (perCycle == 0) return false;
-        const std::int64_t reach = (kFarthestSecond - secondOf(step_)) / kSecondsPerCycle;
-        const std::int64_t room = std::min(reach, (lastStep_ - step_) / stepsPerCycle_);
-        const std::uint64_t cycles =
-            std::min(static_cast<std::uint64_t>(room), (target_ - count_ - 1) / perCycle);
-        step_ += static_cast<std::int64_t>(cycles) * stepsPerCycle_;
-        count_ += cycles * perCycle;
-        markStep_ = step_;
-        markCount_ = count_;
-        return true;
+    /// Takes up to `blocks` blocks of steps, and stays before the target and the
+    /// end of a cycle that is being counted.
+    void skip(std::int64_t blocks, std::int64_t stepsPerBlock, std::uint64_t perBlock) {
+        const std::int64_t room = std::min(lastStep_, cycle_.end()) - step_;
+        blocks =
+            blocksWithin(target_ - count_ - 1, perBlock, std::min(blocks, room / stepsPerBlock));
+        step_ += blocks * stepsPerBlock;
+        count_ += static_cast<std::uint64_t>(blocks) * perBlock;
     }
 
     /// Counts the steps up to `end`. Whether the target was met.
     bool countTo(std::int64_t end, std::int64_t& at) {
-        end = std::min(end, lastStep_);
-        if (markStep_ != 0) end = std::min(end, markStep_ + stepsPerCycle_);
+        end = std::min({end, lastStep_, cycle_.end()});
         while (step_ < end) {
             if (countDay(end, at)) return true;
         }
@@ -127,10 +119,20 @@ private:
         const std::int64_t lastOfDay =
             std::min(end, lastStepTo(direction_ > 0 ? span.last : span.first));
         if (walk_.hours_.isWorkDay(weekdayOfDay(day))) {
+            const bool hasSpan = walk_.times_ == Times::Ignored || walk_.hours_.hasSpanOnDay(day);
             if (walk_.times_ == Times::Count) narrowToHours(span, day, local);
-            if (countSpan(span, lastOfDay, at)) return true;
+            if (hasSpan ? countSpan(span, lastOfDay, at) : countSingly(lastOfDay, at)) return true;
         }
         step_ = lastOfDay;
+        return false;
+    }
+
+    /// Looks at every step up to `lastOfDay`.
+    bool countSingly(std::int64_t lastOfDay, std::int64_t& at) {
+        for (at = step_ + 1; at <= lastOfDay; ++at) {
+            if (!walk_.hours_.contains({secondOf(at), walk_.receiver_.fraction})) continue;
+            if (++count_ == target_) return true;
+        }
         return false;
     }
 
@@ -165,9 +167,7 @@ private:
     std::int64_t lastStep_;
     std::int64_t step_ = 0;
     std::uint64_t count_ = 0;
-    // Where a cycle was begun to be measured; 0 for nowhere.
-    std::int64_t markStep_ = 0;
-    std::uint64_t markCount_ = 0;
+    CycleCounter cycle_{stepsPerCycle_};
 };
 
 std::optional<std::int64_t> WorkTimeWalk::secondAfter(std::int64_t amount) const {

@@ -10,8 +10,9 @@
 //
 // Sums and distances are what stepping day by day, hour by hour or minute by
 // minute through the calendar gives, and cost about the same for a minute and
-// for a hundred years. Every function uses the shared calendar and may be
-// called from any thread.
+// for a hundred years. A date that is not a number, or too far away for the
+// calendar, is no working time, stays as it is and has no distance. Every
+// function uses the shared calendar and may be called from any thread.
 #pragma once
 
 #include <cstdint>
@@ -69,7 +70,7 @@ private:
 /// and then days until the weekday is a work day. Without work days and times
 /// this is the plain sum.
 ///
-/// When no step can ever count, or the sum leads beyond the calendar, one line
+/// When no step can ever count, or the steps lead beyond the calendar, one line
 /// is logged ("Work time never comes: the date stays as it is") and `date`
 /// returned.
 [[nodiscard]] QZ_EXPORT Date
