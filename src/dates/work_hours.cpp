@@ -16,25 +16,6 @@ Time usableTime(const Time& time) {
     return DateComponents{.hour = time->hour, .minute = time->minute, .second = time->second};
 }
 
-/// The same time of day or, when that lies days away, one that is as certainly
-/// before or behind all of its day.
-void bringNear(Time& time) {
-    if (!time) return;
-    constexpr std::int64_t kFarAway = 72;
-    const auto nearly = [](std::int64_t value, std::int64_t most) {
-        return isDefined(value) ? std::clamp(value, -most, most) : value;
-    };
-    // Larger fields decide only together with smaller ones of the same size.
-    constexpr std::int64_t kHuge = std::int64_t{1} << 40;
-    const bool hasMinute = isDefined(time->minute);
-    const std::int64_t minutes =
-        nearly(time->hour, kHuge) * 60 + (hasMinute ? nearly(time->minute, kHuge) : 0);
-    const std::int64_t near = std::clamp(minutes, -kFarAway * 60, kFarAway * 60);
-    time->hour = floorDivided(near, 60);
-    if (hasMinute) time->minute = near - time->hour * 60;
-    time->second = nearly(time->second, kFarAway * 3600);
-}
-
 bool isMidnight(const Time& time) { return !time || (time->hour == 0 && time->minute == 0); }
 
 /// Whether a time has no minute of its own but that of the instant in question.
@@ -70,8 +51,6 @@ WorkHours::WorkHours(const TimeZone& zone, Instant receiver,
         start_.reset();
         end_.reset();
     }
-    bringNear(start_);
-    bringNear(end_);
 }
 
 int WorkHours::workDaysOfWeek() const { return std::popcount(weekdays_); }
@@ -92,8 +71,9 @@ std::int64_t WorkHours::timeOn(std::int64_t day, const Time& time, std::int64_t 
                   .minute = isDefined(time->minute) ? time->minute : minute,
                   .second = isDefined(time->second) ? time->second : second};
     }
-    // A time that is too far away never comes.
-    return secondOfComponents(zone_, fields).value_or(kFarthestSecond + 1);
+    // A time that is too far away never comes, or has always passed.
+    const std::int64_t beyond = fields.hour < 0 ? -kFarthestSecond - 1 : kFarthestSecond + 1;
+    return secondOfComponents(zone_, fields).value_or(beyond);
 }
 
 WorkHours::Bounds WorkHours::boundsFor(Instant instant) const {
@@ -120,7 +100,8 @@ bool WorkHours::hasWholeHour(const Time& time, std::int64_t day) const {
     const std::int64_t first = timeOn(day, hourOf(time), 0, 0);
     const std::int64_t last = timeOn(day, hourOf(time), 59, 59);
     const std::int64_t shown = localTimeAt(zone_, first).second / 3600;
-    return last - first == 3599 && (shown - time->hour) % 24 == 0;
+    const bool isBeyondAllDays = first == last;
+    return isBeyondAllDays || (last - first == 3599 && (shown - time->hour % 24) % 24 == 0);
 }
 
 bool WorkHours::hasSpanOnDay(std::int64_t day) const {

@@ -40,9 +40,7 @@ public:
             }
             const std::uint64_t before = count_;
             if (countTo(step_ + stepsPerWeek_, at)) return true;
-            const std::uint64_t perWeek = count_ - before;
-            if (perWeek == 0 && isWithoutEnd(period)) return false;
-            skip(weeks - 1, stepsPerWeek_, perWeek);
+            skip(weeks - 1, stepsPerWeek_, count_ - before);
         }
         return false;
     }
@@ -56,11 +54,6 @@ private:
     /// direction of the walk.
     [[nodiscard]] std::int64_t lastStepTo(std::int64_t second) const {
         return floorDivided(direction_ * (second - walk_.receiver_.second), walk_.step_);
-    }
-
-    /// Whether nothing changes any more, seen in the direction of the walk.
-    [[nodiscard]] bool isWithoutEnd(const ZonePeriod& period) const {
-        return direction_ > 0 ? period.end == INT64_MAX : period.begin == INT64_MIN;
     }
 
     /// How many whole weeks lie ahead, away from both ends of the period.

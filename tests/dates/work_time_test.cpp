@@ -244,6 +244,11 @@ TEST_CASE("amounts without end, dates beyond the calendar, and days that never c
         }
     }
     const auto minutes = DateComponents::dateComponentsWithMinute(1);
+    for (const std::int64_t hour : {INT64_MIN, std::int64_t{-1} << 40, std::int64_t{1} << 40}) {
+        const auto end = DateComponents::dateComponentsWithHour(hour);
+        CHECK(isWorking(noon, kWeek, std::nullopt, end) == (hour > 0));
+        CHECK(componentsToDate(noon, {8e15 + 77}, kWeek, std::nullopt, end) != DateComponents());
+    }
     const testing::LogCapture log;
     CHECK(dateByAddingComponents(noon, minutes, WorkDays{0, 9}, nine, five) == noon);
     CHECK(dateByAddingComponents(noon, DateComponents::dateComponentsWithYear(1), WorkDays{8}) ==
