@@ -91,13 +91,13 @@ std::optional<std::uint64_t> WorkDays::lastIndex() const {
     return weekdays_.empty() ? std::nullopt : std::optional(weekdays_.back());
 }
 
-bool isWorking(Date date, const std::optional<WorkDays>& withWorkDays,
-               const std::optional<DateComponents>& workStartTime,
-               const std::optional<DateComponents>& workEndTime) {
+bool isWorkingWithWorkDays(Date date, const std::optional<WorkDays>& workDays,
+                           const std::optional<DateComponents>& workStartTime,
+                           const std::optional<DateComponents>& workEndTime) {
     const auto instant = instantOf(date);
     if (!instant) return false;
     const auto zone = sharedGregorianCalendar().timeZone();
-    const WorkHours hours(*zone, *instant, withWorkDays, workStartTime, workEndTime);
+    const WorkHours hours(*zone, *instant, workDays, workStartTime, workEndTime);
     const LocalTime local = localTimeAt(*zone, instant->second);
     if (!hours.isWorkDay(weekdayOfDay(local.day))) return false;
     if (local.second == 0 || !hours.hasTimes()) return true;

@@ -121,7 +121,8 @@ TEST_CASE("work time is what stepping through the calendar gives, in every zone"
             CAPTURE(std::to_string(from.secondsSince1970));
             SteppedWorkTime stepped = given;
             stepped.normaliseFor(from);
-            REQUIRE(isWorking(from, given.days, given.start, given.end) == stepped.isWorking(from));
+            REQUIRE(isWorkingWithWorkDays(from, given.days, given.start, given.end) ==
+                    stepped.isWorking(from));
             const auto sum = stepped.sum(from, amounts);
             const Date counted =
                 dateByAddingComponents(from, amounts, given.days, given.start, given.end);
@@ -155,11 +156,11 @@ TEST_CASE("working days, hours and the ends of days") {
           on(2026, 1, 10));
     CHECK(componentsToDate(on(2026, 1, 5), on(2026, 1, 10), kWeek) == day(5));
     CHECK(componentsToDate(on(2026, 1, 5, 10), on(2026, 1, 10, 10), kWeek) == day(4));
-    CHECK_FALSE(isWorking(on(2026, 1, 5, 9), kWeek, time(9), time(17)));
-    CHECK(isWorking(on(2026, 1, 5, 9, 1), kWeek, time(9), time(17)));
-    CHECK(isWorking(on(2026, 1, 5, 17), kWeek, time(9), time(17)));
-    CHECK(isWorking(on(2026, 1, 5, 20), kWeek, time(9), time(17)));
-    CHECK_FALSE(isWorking(on(2026, 1, 5, 10), kWeek, time(9)));
+    CHECK_FALSE(isWorkingWithWorkDays(on(2026, 1, 5, 9), kWeek, time(9), time(17)));
+    CHECK(isWorkingWithWorkDays(on(2026, 1, 5, 9, 1), kWeek, time(9), time(17)));
+    CHECK(isWorkingWithWorkDays(on(2026, 1, 5, 17), kWeek, time(9), time(17)));
+    CHECK(isWorkingWithWorkDays(on(2026, 1, 5, 20), kWeek, time(9), time(17)));
+    CHECK_FALSE(isWorkingWithWorkDays(on(2026, 1, 5, 10), kWeek, time(9)));
     DateComponents twoAmounts = day(2);
     twoAmounts.hour = 3;
     CHECK(dateByAddingComponents(on(2026, 1, 5, 16), twoAmounts, kWeek, time(9), time(17)) ==
@@ -218,7 +219,7 @@ TEST_CASE("millions of years of work are so many cycles of the calendar") {
             REQUIRE(isLaterBy(cycles, addMinutes(minutes), to, kTime));
             const auto distance = componentsToDate(from, to, kWeek, nine, five);
             if (isDefined(distance.minute)) REQUIRE(distance.minute == allMinutes);
-            if (!isWorking(from, kWeek)) continue;
+            if (!isWorkingWithWorkDays(from, kWeek)) continue;
             const DateComponents back{.minute = -allMinutes};
             REQUIRE(dateByAddingComponents(to, back, kWeek, nine, five) == from);
         }
@@ -246,7 +247,7 @@ TEST_CASE("amounts without end, dates beyond the calendar, and days that never c
     const auto minutes = DateComponents::dateComponentsWithMinute(1);
     for (const std::int64_t hour : {INT64_MIN, std::int64_t{-1} << 40, std::int64_t{1} << 40}) {
         const auto end = DateComponents::dateComponentsWithHour(hour);
-        CHECK(isWorking(noon, kWeek, std::nullopt, end) == (hour > 0));
+        CHECK(isWorkingWithWorkDays(noon, kWeek, std::nullopt, end) == (hour > 0));
         CHECK(componentsToDate(noon, {8e15 + 77}, kWeek, std::nullopt, end) != DateComponents());
     }
     const testing::LogCapture log;
@@ -256,7 +257,7 @@ TEST_CASE("amounts without end, dates beyond the calendar, and days that never c
     CHECK(log.lines() == std::vector<String>(2, u"Work time never comes: the date stays as it is"));
     for (const double seconds : {double{NAN}, double{INFINITY}, -1e300}) {
         const Date date{seconds};
-        CHECK_FALSE(isWorking(date, kWeek));
+        CHECK_FALSE(isWorkingWithWorkDays(date, kWeek));
         CHECK(componentsToDate(date, noon, kWeek) == DateComponents());
         const double sum =
             dateByAddingComponents(date, minutes, kWeek, nine, five).secondsSince1970;

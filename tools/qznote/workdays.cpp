@@ -132,7 +132,7 @@ std::variant<std::string, UsageFault> answer(const WorkdaysQuestion& question) {
         if (!end) return UsageFault{"no such date: " + question.end};
         return inWords(componentsToDate(*date, *end, work->days, work->start, work->end)) + "\n";
     }
-    return isWorking(*date, work->days, work->start, work->end) ? "yes\n" : "no\n";
+    return isWorkingWithWorkDays(*date, work->days, work->start, work->end) ? "yes\n" : "no\n";
 }
 
 }  // namespace qznote

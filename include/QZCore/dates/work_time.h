@@ -52,8 +52,8 @@ private:
 /// midnight, its time is later than the start and not later than the end. A
 /// missing start has always passed and a missing end is never met, so that a
 /// start alone leaves only midnight.
-[[nodiscard]] QZ_EXPORT bool isWorking(
-    Date date, const std::optional<WorkDays>& withWorkDays,
+[[nodiscard]] QZ_EXPORT bool isWorkingWithWorkDays(
+    Date date, const std::optional<WorkDays>& workDays,
     const std::optional<DateComponents>& workStartTime = std::nullopt,
     const std::optional<DateComponents>& workEndTime = std::nullopt);
 
