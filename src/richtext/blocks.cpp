@@ -17,14 +17,12 @@ int levelOfHeading(double pointSize) {
 }
 
 /// The blanks at the start of a line.
-std::size_t indentationOf(const RichText& text, Range line) {
-    const std::size_t blanks = text.string(line).find_first_not_of(u" \t");
-    return std::min(blanks, line.length);
+std::size_t indentationOf(StringView line) {
+    return std::min(line.find_first_not_of(u" \t"), line.size());
 }
 
 /// Whether a paragraph of an item ends its list by the space behind it.
-bool hasSpaceBehind(const RichText& text, Range line) {
-    const TextAttributes attributes = text.attributesAtIndex(line.location);
+bool hasSpaceBehind(const TextAttributes& attributes) {
     const ParagraphStyle* style = attributes.paragraphStyle();
     return style != nullptr && !style->tabStops.empty() && style->paragraphSpacing > 0;
 }
@@ -48,6 +46,20 @@ bool haveOneStyle(const RichText& text, Range a, Range b) {
 }
 
 }  // namespace
+
+/// A paragraph, without the marker of an item.
+struct BlockClassifier::Line {
+    Range range;
+    /// Its text.
+    StringView units;
+    /// The attributes that it starts with.
+    TextAttributes attributes;
+
+    void removePrefix(std::size_t length) {
+        range = {range.location + length, range.length - length};
+        units.remove_prefix(length);
+    }
+};
 
 BlockClassifier::BlockClassifier(const TextAttributes& base) : base_(base) {}
 
@@ -77,47 +89,50 @@ bool BlockClassifier::isQuoted(const TextAttributes& attributes) const {
            style->firstLineHeadIndent - indent > around.firstLineHeadIndent;
 }
 
-Block BlockClassifier::otherBlockOf(const RichText& text, Range paragraph) {
+Block BlockClassifier::otherBlockOf(const RichText& text, const Line& line) {
     bool code = true;
     bool bold = true;
     // An empty line is code when its end is.
     for (const TextRunView run :
-         text.runs({paragraph.location, std::max(paragraph.length, std::size_t{1})})) {
+         text.runs({line.range.location, std::max(line.range.length, std::size_t{1})})) {
         const Font* font = run.attributes.font();
         code = code && isCode(run.attributes);
         bold = bold && font != nullptr && (font->traits & kFontBold) != 0;
+        if (!code && !bold) break;
     }
-    const TextAttributes first = text.attributesAtIndex(paragraph.location);
-    const bool quoted = paragraph.length > 0 && isQuoted(first);
+    const bool isEmpty = line.units.empty();
+    const bool quoted = !isEmpty && isQuoted(line.attributes);
     if (code) return {.kind = BlockKind::Code, .isQuoted = quoted};
-    if (!bold || paragraph.length == 0 || base_.font() == nullptr ||
-        first.font()->pointSize == base_.font()->pointSize) {
-        return {.isQuoted = quoted};
-    }
-    return {.kind = BlockKind::Heading,
-            .level = levelOfHeading(first.font()->pointSize),
-            .isQuoted = quoted};
+    if (!bold || isEmpty || base_.font() == nullptr) return {.isQuoted = quoted};
+    const double size = line.attributes.font()->pointSize;
+    if (size == base_.font()->pointSize) return {.isQuoted = quoted};
+    return {.kind = BlockKind::Heading, .level = levelOfHeading(size), .isQuoted = quoted};
 }
 
 /// The block that a paragraph is; the line of an item becomes its text.
-Block BlockClassifier::blockOf(const RichText& text, Range& line) {
-    const auto found = listItemAt(text, line);
+Block BlockClassifier::blockOf(const RichText& text, Line& line) {
+    const ParagraphStyle* style = line.attributes.paragraphStyle();
+    const auto found = style == nullptr ? std::nullopt : listItemIn(line.units, *style);
     if (!found) return otherBlockOf(text, line);
-    line = found->text;
+    line.removePrefix(found->text.location);
     return {.kind = BlockKind::Item, .item = found->item};
 }
 
 Blocks BlockClassifier::blocksOf(const RichText& text) {
-    Blocks result{paragraphsOf(text.string()), {}};
+    const String units = text.string();
+    Blocks result{paragraphsOf(units), {}};
     auto& [lines, blocks] = result;
     bool inList = false;
     bool isBehindSpace = false;   // whether the paragraph stands apart from the one before
     std::size_t indentation = 0;  // of the first line of a block in an item
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        Block block = blockOf(text, lines[i]);
+        Line line{lines[i], StringView(units).substr(lines[i].location, lines[i].length),
+                  text.attributesAtIndex(lines[i].location)};
+        Block block = blockOf(text, line);
+        lines[i] = line.range;
         const bool endsList = inList && (isEmptyLine(block, lines[i]) || isBehindSpace);
         inList = block.kind == BlockKind::Item || (inList && !endsList);
-        isBehindSpace = hasSpaceBehind(text, lines[i]);
+        isBehindSpace = hasSpaceBehind(line.attributes);
         if (endsList && lines[i].length == 0 && i + 1 < lines.size() && lines[i + 1].length == 0)
             continue;
         block.isInList = inList;
@@ -126,10 +141,10 @@ Blocks BlockClassifier::blocksOf(const RichText& text) {
         const bool goesOn = !blocks.empty() && continues(blocks.back(), block) &&
                             haveOneStyle(text, lines[blocks.back().first], lines[i]);
         if (inList && block.kind != BlockKind::Item) {
-            const std::size_t blanks = indentationOf(text, lines[i]);
+            const std::size_t blanks = indentationOf(line.units);
             if (!goesOn) indentation = blanks;
-            const std::size_t cut = std::min(blanks, indentation);
-            lines[i] = {lines[i].location + cut, lines[i].length - cut};
+            line.removePrefix(std::min(blanks, indentation));
+            lines[i] = line.range;
         }
         if (goesOn) {
             blocks.back().end = block.end;

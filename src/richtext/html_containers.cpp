@@ -1,32 +1,34 @@
 #include "richtext/html_containers.h"
 
+#include "richtext/html_markup.h"
+
 namespace QZCore {
 namespace {
 
-std::string nameOfList(const TextListItem& item) { return item.isNumbered() ? "ol" : "ul"; }
+String nameOfList(const TextListItem& item) { return item.isNumbered() ? u"ol" : u"ul"; }
 
-std::string numberAttribute(const char* name, std::uint32_t number) {
-    return " " + std::string(name) + "=\"" + std::to_string(number) + "\"";
+String numberAttribute(StringView name, std::uint32_t number) {
+    return markupAttribute(name, unsignedString(number));
 }
 
 }  // namespace
 
 void HtmlContainers::startList(const TextListItem& item) {
     // The direction of its text decides on which side the markers stand.
-    page_ += "<" + nameOfList(item) + " dir=\"auto\"";
-    if (item.isNumbered() && item.number != 1) page_ += numberAttribute("start", item.number);
-    if (item.bullet == kOpenBullet) page_ += " style=\"list-style-type:circle;\"";
-    page_ += ">\n<li>";
+    page_ += u"<" + nameOfList(item) + u" dir=\"auto\"";
+    if (item.isNumbered() && item.number != 1) page_ += numberAttribute(u"start", item.number);
+    if (item.bullet == kOpenBullet) page_ += u" style=\"list-style-type:circle;\"";
+    page_ += u">\n<li>";
     lists_.push_back(item);
 }
 
 void HtmlContainers::startItem(const TextListItem& item) {
     TextListItem& last = lists_.back();
-    page_ += "</li>\n<li";
+    page_ += u"</li>\n<li";
     if (item.isNumbered() && item.number != last.number + 1) {
-        page_ += numberAttribute("value", item.number);
+        page_ += numberAttribute(u"value", item.number);
     }
-    page_ += ">";
+    page_ += u">";
     last = item;
 }
 
@@ -47,22 +49,22 @@ void HtmlContainers::enter(const Block& block) {
 }
 
 void HtmlContainers::leaveList() {
-    page_ += "</li>\n</" + nameOfList(lists_.back()) + ">";
+    page_ += u"</li>\n</" + nameOfList(lists_.back()) + u">";
     lists_.pop_back();
-    if (lists_.empty()) page_ += "\n";
+    if (lists_.empty()) page_ += u"\n";
 }
 
 void HtmlContainers::enterQuotation() {
-    page_ += "<blockquote dir=\"auto\"";
-    if (form_ == HtmlForm::Fragment) page_ += " style=\"margin:0;\"";
-    page_ += ">\n";
+    page_ += u"<blockquote dir=\"auto\"";
+    if (form_ == HtmlForm::Fragment) page_ += u" style=\"margin:0;\"";
+    page_ += u">\n";
     inQuotation_ = true;
 }
 
 void HtmlContainers::leaveQuotation() {
     if (!inQuotation_) return;
     // Nothing but text may end a line within an item.
-    page_ += lists_.empty() ? "</blockquote>\n" : "</blockquote>";
+    page_ += lists_.empty() ? u"</blockquote>\n" : u"</blockquote>";
     inQuotation_ = false;
 }
 

@@ -1,7 +1,6 @@
 // The elements of a page that hold blocks: lists, their items, and quotations.
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "QZCore/richtext/blocks.h"
@@ -13,7 +12,7 @@ namespace QZCore {
 class HtmlContainers {
 public:
     /// Tags are appended to `page`, which must outlive this.
-    HtmlContainers(std::string& page, HtmlForm form) : page_(page), form_(form) {}
+    HtmlContainers(String& page, HtmlForm form) : page_(page), form_(form) {}
 
     /// Makes the containers of `block` the open ones. Of an item that is several
     /// levels below the one before it, only one level is seen.
@@ -30,7 +29,7 @@ private:
     void enterQuotation();
     void leaveQuotation();
 
-    std::string& page_;
+    String& page_;
     HtmlForm form_;
     // The last item of each open list, outermost first. Each holds the next list.
     std::vector<TextListItem> lists_;

@@ -1,7 +1,6 @@
 // The ground of HTML: escaped text, elements that nest, and images as URIs.
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "QZCore/foundation/text.h"
@@ -9,27 +8,32 @@
 
 namespace QZCore {
 
-/// `text` as it stands in a page, between tags and in attribute values alike.
-/// Control characters other than the tab and the line feed, and unpaired
+/// Appends `text` as it stands in a page, between tags and in attribute values
+/// alike. Control characters other than the tab and the line feed, and unpaired
 /// surrogates, become U+FFFD.
-[[nodiscard]] std::string escapedMarkup(StringView text);
+void appendEscaped(String& page, StringView text);
 
 /// The bytes of `image` as a "data:" URI.
-[[nodiscard]] std::string dataUri(const Image& image);
+[[nodiscard]] String dataUri(const Image& image);
+
+/// The attribute `name` with an escaped value and a blank in front; nothing for
+/// an empty value.
+[[nodiscard]] String markupAttribute(StringView name, StringView value);
 
 /// An element that text stands in.
 struct Element {
-    /// The name of the tag.
-    std::string name;
-    /// The attributes with a leading blank; empty when there are none.
-    std::string attributes;
+    Element(StringView name, StringView attributes = {});
 
-    /// Exact comparison of both fields.
-    friend bool operator==(const Element&, const Element&) = default;
+    /// Its tags.
+    String start;
+    String end;
+
+    /// Whether both start with the same tag.
+    friend bool operator==(const Element& a, const Element& b) { return a.start == b.start; }
 };
 
-/// The attribute `name` with an escaped value; nothing for an empty value.
-[[nodiscard]] std::string markupAttribute(std::string_view name, StringView value);
+/// Elements in each other, the outermost first.
+using Elements = std::vector<Element>;
 
 /// The tags that start and end elements around stretches of text, nested
 /// properly. What two neighbouring stretches have in common, from the outermost
@@ -37,15 +41,20 @@ struct Element {
 class NestedElements {
 public:
     /// Tags are appended to `page`, which must outlive this.
-    explicit NestedElements(std::string& page) : page_(page) {}
+    explicit NestedElements(String& page) : page_(page) {}
+    NestedElements(const NestedElements&) = delete;
+    NestedElements& operator=(const NestedElements&) = delete;
 
-    /// Ends and starts elements so that exactly `wanted`, outermost first, are
-    /// open.
-    void change(std::vector<Element> wanted);
+    /// Ends and starts elements so that exactly those in `wanted` are open,
+    /// which must live until the next change.
+    void change(const Elements& wanted);
+    /// Ends all that are open.
+    void close() { change(none_); }
 
 private:
-    std::string& page_;
-    std::vector<Element> open_;
+    String& page_;
+    const Elements none_;
+    const Elements* open_ = &none_;
 };
 
 }  // namespace QZCore

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <optional>
 
+#include "foundation/unit_search.h"
 #include "richtext/css_writing.h"
 
 namespace QZCore {
@@ -38,22 +39,22 @@ std::uint32_t traitsOf(const TextAttributes& attributes) {
 }
 
 /// A page says the same for all of its links.
-std::string styleOfLinks(HtmlForm form) {
-    return form == HtmlForm::Page ? "" : " style=\"color:inherit;text-decoration:none;\"";
+StringView styleOfLinks(HtmlForm form) {
+    return form == HtmlForm::Page ? u"" : u" style=\"color:inherit;text-decoration:none;\"";
 }
 
 /// Adds what raises or lowers text.
-void addShifts(std::vector<Element>& elements, const TextAttributes& attributes) {
+void addShifts(Elements& elements, const TextAttributes& attributes) {
     constexpr std::int32_t kMost = 8;
     const std::int32_t level =
         std::clamp(attributes.objectForKey(NSSuperscriptAttributeName).intValue(), -kMost, kMost);
     for (std::int32_t i = 0; i < std::abs(level); ++i) {
-        elements.push_back({level > 0 ? "sup" : "sub", {}});
+        elements.emplace_back(level > 0 ? u"sup" : u"sub");
     }
     const double offset = attributes.objectForKey(NSBaselineOffsetAttributeName).doubleValue();
     if (offset == 0) return;
-    elements.push_back(
-        {"span", markupAttribute("style", u"vertical-align:" + cssLength(offset) + u";")});
+    elements.emplace_back(u"span",
+                          markupAttribute(u"style", u"vertical-align:" + cssLength(offset) + u";"));
 }
 
 }  // namespace
@@ -76,51 +77,56 @@ String RunMarkup::css(const TextAttributes& attributes, const TextAttributes& ar
     return css;
 }
 
-std::vector<Element> RunMarkup::elementsFor(const TextAttributes& attributes,
-                                            const TextAttributes& around) {
-    std::vector<Element> elements;
+Elements RunMarkup::elementsFor(const TextAttributes& attributes, const TextAttributes& around) {
+    Elements elements;
     if (const auto link = safeLink(attributes)) {
-        elements.push_back({"a", markupAttribute("href", *link) + styleOfLinks(form_)});
+        const String target = markupAttribute(u"href", *link);
+        elements.emplace_back(u"a", target + String(styleOfLinks(form_)));
     }
     const String look = css(attributes, around);
     if (!look.empty()) {
         const bool isMarked = look.find(u"background-color:") != String::npos;
         const bool isPlain = !isMarked || form_ == HtmlForm::Fragment;
-        const char* name = isPlain ? "span" : classifier_.isCode(attributes) ? "code" : "mark";
-        elements.push_back({name, markupAttribute("style", look)});
+        const StringView name = isPlain                          ? u"span"
+                                : classifier_.isCode(attributes) ? u"code"
+                                                                 : u"mark";
+        elements.emplace_back(name, markupAttribute(u"style", look));
     }
     const std::uint32_t added = traitsOf(attributes) & ~traitsOf(around);
-    if ((added & kFontBold) != 0) elements.push_back({"strong", {}});
-    if ((added & kFontItalic) != 0) elements.push_back({"em", {}});
-    if (attributes.underlineStyle() != 0) elements.push_back({"u", {}});
-    if (attributes.strikethroughStyle() != 0) elements.push_back({"s", {}});
+    if ((added & kFontBold) != 0) elements.emplace_back(u"strong");
+    if ((added & kFontItalic) != 0) elements.emplace_back(u"em");
+    if (attributes.underlineStyle() != 0) elements.emplace_back(u"u");
+    if (attributes.strikethroughStyle() != 0) elements.emplace_back(u"s");
     addShifts(elements, attributes);
     return elements;
 }
 
 void RunMarkup::writeImage(const TextAttachment& attachment) {
-    page_ += "<img";
+    page_ += u"<img";
     if (attachment.image != nullptr) {
-        page_ += " src=\"" + dataUri(*attachment.image) + "\"";
+        page_ += u" src=\"" + dataUri(*attachment.image) + u"\"";
     } else if (const auto source = safeLink({{NSLinkAttributeName, attachment.source}})) {
-        page_ += markupAttribute("src", *source);
+        page_ += markupAttribute(u"src", *source);
     }
     // An image without an alternative text is announced by its address.
-    page_ += " alt=\"" + escapedMarkup(attachment.alternativeText) + "\"";
+    page_ += u" alt=\"";
+    appendEscaped(page_, attachment.alternativeText);
+    page_ += u'"';
     if (attachment.width > 0 && attachment.height > 0) {
-        page_ += markupAttribute("style", u"width:" + cssLength(attachment.width) + u";height:" +
-                                              cssLength(attachment.height) + u";");
+        page_ += markupAttribute(u"style", u"width:" + cssLength(attachment.width) + u";height:" +
+                                               cssLength(attachment.height) + u";");
     }
-    page_ += ">";
+    page_ += u'>';
 }
 
 void RunMarkup::writeText(StringView text) {
     constexpr char16_t kLineSeparator = u'\u2028';
-    for (std::size_t at; (at = text.find(kLineSeparator)) != text.npos;
+    for (std::size_t at; (at = findUnit(text, 0, kLineSeparator)) < text.size();
          text.remove_prefix(at + 1)) {
-        page_ += escapedMarkup(text.substr(0, at)) + "<br>";
+        appendEscaped(page_, text.substr(0, at));
+        page_ += u"<br>";
     }
-    page_ += escapedMarkup(text);
+    appendEscaped(page_, text);
 }
 
 void RunMarkup::writeText(StringView text, const TextAttachment& attachment) {
@@ -133,14 +139,16 @@ void RunMarkup::writeText(StringView text, const TextAttachment& attachment) {
 }
 
 void RunMarkup::write(Range range, const TextAttributes& around) {
-    NestedElements elements(page_);
+    ElementsOfLooks& elements = elements_[around];
     for (const TextRunView run : text_.runs(range)) {
-        elements.change(elementsFor(run.attributes, around));
+        const auto [known, isNew] = elements.try_emplace(run.attributes);
+        if (isNew) known->second = elementsFor(run.attributes, around);
+        nested_.change(known->second);
         const TextAttachment* attachment = run.attributes.attachment();
-        const String text = text_.string(run.range);
+        const StringView text = StringView(units_).substr(run.range.location, run.range.length);
         attachment == nullptr ? writeText(text) : writeText(text, *attachment);
     }
-    elements.change({});
+    nested_.close();
 }
 
 }  // namespace QZCore

@@ -1,8 +1,7 @@
 // Runs of rich text as HTML within a block.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <unordered_map>
 
 #include "QZCore/richtext/blocks.h"
 #include "QZCore/richtext/html.h"
@@ -14,8 +13,13 @@ namespace QZCore {
 class RunMarkup {
 public:
     /// Appends to `page`. All three must outlive this.
-    RunMarkup(const RichText& text, BlockClassifier& classifier, std::string& page, HtmlForm form)
-        : text_(text), classifier_(classifier), page_(page), form_(form) {}
+    RunMarkup(const RichText& text, BlockClassifier& classifier, String& page, HtmlForm form)
+        : text_(text),
+          units_(text.string()),
+          classifier_(classifier),
+          page_(page),
+          nested_(page),
+          form_(form) {}
 
     /// Writes the runs in `range` of a block with the look of `around`.
     void write(Range range, const TextAttributes& around);
@@ -25,16 +29,25 @@ public:
     [[nodiscard]] String css(const TextAttributes& attributes, const TextAttributes& around);
 
 private:
-    [[nodiscard]] std::vector<Element> elementsFor(const TextAttributes& attributes,
-                                                   const TextAttributes& around);
+    struct Hash {
+        std::size_t operator()(const TextAttributes& attributes) const { return attributes.hash(); }
+    };
+    /// The elements that each look needs.
+    using ElementsOfLooks = std::unordered_map<TextAttributes, Elements, Hash>;
+
+    [[nodiscard]] Elements elementsFor(const TextAttributes& attributes,
+                                       const TextAttributes& around);
     void writeText(StringView text);
     void writeText(StringView text, const TextAttachment& attachment);
     void writeImage(const TextAttachment& attachment);
 
     const RichText& text_;
+    const String units_;
     BlockClassifier& classifier_;
-    std::string& page_;
+    String& page_;
+    NestedElements nested_;
     HtmlForm form_;
+    std::unordered_map<TextAttributes, ElementsOfLooks, Hash> elements_;  // by the look around
 };
 
 }  // namespace QZCore

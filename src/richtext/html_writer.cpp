@@ -1,5 +1,6 @@
 #include "QZCore/richtext/html.h"
 
+#include <unordered_map>
 #include <utility>
 
 #include "QZCore/richtext/blocks.h"
@@ -13,7 +14,8 @@ namespace {
 
 // Blocks stand in a column, so that the space after one and the space before
 // the next add up, as they do in rich text.
-constexpr std::string_view kPageStyle = R"(
+constexpr StringView kPageStyle =
+    uR"(
 :root { color-scheme: light dark; }
 body { margin: 2rem auto; max-width: 44rem; padding: 0 1.5rem; overflow-wrap: anywhere; }
 main, blockquote { display: flex; flex-direction: column; }
@@ -31,27 +33,51 @@ a { color: inherit; text-decoration: none; }
 img { max-width: 100%; vertical-align: text-bottom; }
 )";
 
-/// The element of a block. An item stands in its list by itself, and needs one
-/// only to carry a style.
-std::string elementOf(const Block& block, StringView style) {
-    switch (block.kind) {
-        case BlockKind::Heading:
-            return "h" + std::to_string(block.level);
-        case BlockKind::Code:
-            return "pre";
-        case BlockKind::Item:
-            return style.empty() ? "" : "p";
-        case BlockKind::Paragraph:
-            break;
-    }
-    return "p";
-}
-
 TextAttributes withFont(const TextAttributes& base) {
     if (base.font() != nullptr) return base;
     return base.withAttribute(NSFontAttributeName,
                               Value::boxed(FontManager::shared().userFont(kFontDefaultSize)));
 }
+
+/// What tells blocks apart that are written in different ways.
+struct BlockFeatures {
+    /// The attributes that the block starts with.
+    TextAttributes first;
+    BlockKind kind = BlockKind::Paragraph;
+    int level = 0;
+    bool isInList = false;
+    bool isQuotedOn = false;  // the next block is a part of the same quotation
+
+    friend bool operator==(const BlockFeatures&, const BlockFeatures&) = default;
+
+    struct Hash {
+        std::size_t operator()(const BlockFeatures& block) const { return block.first.hash(); }
+    };
+};
+
+/// The element of a block. An item stands in its list by itself, and needs one
+/// only to carry a style.
+String elementOf(const BlockFeatures& block, StringView style) {
+    switch (block.kind) {
+        case BlockKind::Heading:
+            return u"h" + integerString(block.level);
+        case BlockKind::Code:
+            return u"pre";
+        case BlockKind::Item:
+            return style.empty() ? u"" : u"p";
+        case BlockKind::Paragraph:
+            break;
+    }
+    return u"p";
+}
+
+/// What is written around the runs of a block.
+struct BlockMarkup {
+    /// What its runs take from it.
+    TextAttributes look;
+    /// Its tags, where it needs any.
+    Elements elements;
+};
 
 class Writer {
 public:
@@ -65,28 +91,31 @@ public:
           runs_(text, classifier_, out_, options.form) {}
 
     [[nodiscard]] String write() {
+        out_.reserve(2 * text_.length());
         isFragment() ? writeFragment() : writePage();
-        return fromUTF8(out_);
+        return std::move(out_);
     }
 
 private:
     [[nodiscard]] bool isFragment() const { return options_.form == HtmlForm::Fragment; }
 
     void writePage() {
-        out_ = "<!doctype html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n";
-        out_ += "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n";
-        out_ += "<title>" + escapedMarkup(title()) + "</title>\n<style>";
+        out_ += u"<!doctype html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n";
+        out_ += u"<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n";
+        out_ += u"<title>";
+        appendEscaped(out_, title());
+        out_ += u"</title>\n<style>";
         out_ += kPageStyle;
-        out_ +=
-            "</style>\n</head>\n<body" + markupAttribute("style", styleOfBody()) + ">\n<main>\n";
+        out_ += u"</style>\n</head>\n";
+        out_ += Element(u"body", markupAttribute(u"style", styleOfBody())).start + u"\n<main>\n";
         writeBlocks();
-        out_ += "</main>\n</body>\n</html>\n";
+        out_ += u"</main>\n</body>\n</html>\n";
     }
 
     void writeFragment() {
-        out_ = "<div" + markupAttribute("style", styleOfBody()) + ">\n";
+        out_ += Element(u"div", markupAttribute(u"style", styleOfBody())).start + u"\n";
         writeBlocks();
-        out_ += "</div>\n";
+        out_ += u"</div>\n";
     }
 
     void writeBlocks() {
@@ -112,16 +141,12 @@ private:
         return colors.empty() ? css : css + colors + u"color-scheme:light;";
     }
 
-    [[nodiscard]] TextAttributes firstAttributesOf(const Block& block) const {
-        return text_.attributesAtIndex(blocks_.lineOf(block).location);
-    }
-
     /// What the runs of a block take from the block.
-    [[nodiscard]] TextAttributes lookOf(const Block& block) const {
-        if (block.kind == BlockKind::Code) return firstAttributesOf(block);
+    [[nodiscard]] TextAttributes lookOf(const BlockFeatures& block) const {
+        if (block.kind == BlockKind::Code) return block.first;
         if (block.kind != BlockKind::Heading) return base_;
-        return firstAttributesOf(block).withAttribute(
-            NSBackgroundColorAttributeName, base_.objectForKey(NSBackgroundColorAttributeName));
+        return block.first.withAttribute(NSBackgroundColorAttributeName,
+                                         base_.objectForKey(NSBackgroundColorAttributeName));
     }
 
     /// Whether the block behind this one is a part of the same quotation.
@@ -131,7 +156,7 @@ private:
     }
 
     /// The traits that runs of the block do not add, since it has them.
-    [[nodiscard]] String cssOfTraits(const Block& block, const TextAttributes& look) const {
+    [[nodiscard]] String cssOfTraits(const BlockFeatures& block, const TextAttributes& look) const {
         if (look.font() == nullptr) return {};
         const std::uint32_t added = look.font()->traits & ~base_.font()->traits;
         String css;
@@ -141,17 +166,16 @@ private:
         return css;
     }
 
-    [[nodiscard]] String styleOf(std::size_t index, const TextAttributes& look) {
-        const Block& block = blocks_.blocks[index];
-        const TextAttributes first = firstAttributesOf(block);
+    [[nodiscard]] String styleOf(const BlockFeatures& block, const TextAttributes& look) {
         const double size = look.font() == nullptr ? kFontDefaultSize : look.font()->pointSize;
         String css;
         // A page says these for all of its blocks.
         if (isFragment()) css += u"margin:0;white-space:pre-wrap;";
         css += runs_.css(look, base_);
         css += cssOfTraits(block, look);
-        if (first.paragraphStyle() == nullptr) return css;
-        ParagraphStyle style = *first.paragraphStyle();
+        const ParagraphStyle* first = block.first.paragraphStyle();
+        if (first == nullptr) return css;
+        ParagraphStyle style = *first;
         // The list around an item indents it, and what is below it.
         if (block.kind == BlockKind::Item) {
             style.headIndent = style.firstLineHeadIndent = 0;
@@ -161,7 +185,7 @@ private:
             style.firstLineHeadIndent -= indent;
         }
         // The bar along a quotation goes on between its paragraphs.
-        if (isQuotedOn(index) && style.paragraphSpacing != 0) {
+        if (block.isQuotedOn && style.paragraphSpacing != 0) {
             css += u"padding-bottom:" + cssLength(std::exchange(style.paragraphSpacing, 0)) + u";";
         }
         return css + cssOfParagraph(style, size);
@@ -176,33 +200,48 @@ private:
                blocks[index + 1].kind != BlockKind::Item;
     }
 
+    [[nodiscard]] BlockFeatures featuresOf(std::size_t index) const {
+        const Block& block = blocks_.blocks[index];
+        return {text_.attributesAtIndex(blocks_.lineOf(block).location), block.kind, block.level,
+                block.isInList, isQuotedOn(index)};
+    }
+
+    [[nodiscard]] BlockMarkup markupFor(const BlockFeatures& block) {
+        BlockMarkup markup{lookOf(block), {}};
+        const String style = styleOf(block, markup.look);
+        const String name = elementOf(block, style);
+        if (!name.empty()) markup.elements.emplace_back(name, markupAttribute(u"style", style));
+        return markup;
+    }
+
     void writeBlock(std::size_t index) {
         const Block& block = blocks_.blocks[index];
         containers_.enter(block);
-        const TextAttributes look = lookOf(block);
-        const String style = styleOf(index, look);
-        const std::string name = elementOf(block, style);
-        if (!name.empty()) out_ += "<" + name + markupAttribute("style", style) + ">";
-        block.kind == BlockKind::Code ? writeCode(block, look) : writeLine(index, look);
-        if (!name.empty()) out_ += "</" + name + ">";
-        if (!block.isInList || block.isQuoted) out_ += "\n";
+        const auto [known, isNew] = markups_.try_emplace(featuresOf(index));
+        if (isNew) known->second = markupFor(known->first);
+        const BlockMarkup& markup = known->second;
+        for (const Element& element : markup.elements) out_ += element.start;
+        block.kind == BlockKind::Code ? writeCode(block, markup.look)
+                                      : writeLine(index, markup.look);
+        for (const Element& element : markup.elements) out_ += element.end;
+        if (!block.isInList || block.isQuoted) out_ += u'\n';
     }
 
     void writeLine(std::size_t index, const TextAttributes& look) {
         const Range line = blocks_.lineOf(blocks_.blocks[index]);
         runs_.write(line, look);
-        if (line.length == 0 && (isFragment() || isEmptyAbovePart(index))) out_ += "<br>";
+        if (line.length == 0 && (isFragment() || isEmptyAbovePart(index))) out_ += u"<br>";
     }
 
     /// Readers drop a line feed behind the tag, and one at the end.
     void writeCode(const Block& block, const TextAttributes& look) {
-        out_ += isFragment() ? "\n" : "<code>";
+        out_ += isFragment() ? u"\n" : u"<code>";
         for (std::size_t i = block.first; i < block.end; ++i) {
-            if (i > block.first) out_ += "\n";
+            if (i > block.first) out_ += u"\n";
             runs_.write(blocks_.lines[i], look);
         }
-        if (blocks_.lines[block.end - 1].length == 0) out_ += "\n";
-        if (!isFragment()) out_ += "</code>";
+        if (blocks_.lines[block.end - 1].length == 0) out_ += u"\n";
+        if (!isFragment()) out_ += u"</code>";
     }
 
     const RichText& text_;
@@ -210,9 +249,10 @@ private:
     TextAttributes base_;
     BlockClassifier classifier_;
     Blocks blocks_;
-    std::string out_;
+    String out_;
     HtmlContainers containers_;
     RunMarkup runs_;
+    std::unordered_map<BlockFeatures, BlockMarkup, BlockFeatures::Hash> markups_;
 };
 
 }  // namespace

@@ -6,6 +6,7 @@ namespace QZCore {
 namespace {
 
 constexpr std::size_t kMostDigits = 9;
+constexpr std::size_t kLongestStart = kMostDigits + 3;  // two tabs and a full stop
 
 /// Whether markers end and texts start at stops of their own.
 bool hasStopsOfItems(const ParagraphStyle& style) {
@@ -38,20 +39,14 @@ double itemIndentOf(const ParagraphStyle& style) {
     return isInList ? style.tabStops[1].location : 0;
 }
 
-std::optional<FoundTextListItem> listItemAt(const RichText& text, Range paragraph) {
-    constexpr std::size_t kLongestStart = kMostDigits + 3;  // two tabs and a full stop
-    if (text.characterAtIndex(paragraph.location) != u'\t') return std::nullopt;
-    const TextAttributes attributes = text.attributesAtIndex(paragraph.location);
-    const ParagraphStyle* style = attributes.paragraphStyle();
-    if (style == nullptr || !hasStopsOfItems(*style)) return std::nullopt;
-    const String start =
-        text.string({paragraph.location, std::min(paragraph.length, kLongestStart)});
-    const std::size_t tab = start.find(u'\t', 1);
-    if (tab == String::npos) return std::nullopt;
-    auto item = itemOfMarker(StringView(start).substr(1, tab - 1));
+std::optional<FoundTextListItem> listItemIn(StringView paragraph, const ParagraphStyle& style) {
+    if (!paragraph.starts_with(u'\t') || !hasStopsOfItems(style)) return std::nullopt;
+    const std::size_t tab = paragraph.substr(0, kLongestStart).find(u'\t', 1);
+    if (tab == StringView::npos) return std::nullopt;
+    auto item = itemOfMarker(paragraph.substr(1, tab - 1));
     if (!item) return std::nullopt;
-    item->depth = style->textLists.size() + 1;
-    return FoundTextListItem{*item, {paragraph.location + tab + 1, paragraph.length - tab - 1}};
+    item->depth = style.textLists.size() + 1;
+    return FoundTextListItem{*item, {tab + 1, paragraph.size() - tab - 1}};
 }
 
 }  // namespace QZCore

@@ -21,21 +21,6 @@ constexpr std::array kFormats{
     FormatRow{kDiscFormat, RtfNumbering::Bullet},
 };
 
-bool isBullet(StringView marker) {
-    return marker.size() == 1 && (marker[0] == kFilledBullet || marker[0] == kOpenBullet);
-}
-
-bool isNumber(StringView marker) {
-    const std::size_t digits = marker.find_first_not_of(u"0123456789");
-    return digits != 0 && digits != StringView::npos && marker.substr(digits) == u".";
-}
-
-/// Whether markers end and texts start at stops of their own.
-bool hasStopsOfItems(const ParagraphStyle& style) {
-    return style.tabStops.size() == 2 && style.tabStops[0].alignment == TextAlignment::Right &&
-           style.tabStops[1] == TextTab{TextAlignment::Natural, style.headIndent};
-}
-
 /// What stands between two tabs at the start of `paragraph`.
 StringView markerOf(StringView paragraph) {
     constexpr std::size_t kLongest = 12;
@@ -68,13 +53,14 @@ StringView markerFormatOf(std::int32_t numbering) {
 std::optional<RtfListItem> rtfListItemIn(StringView paragraph, const ParagraphStyle& style) {
     const StringView marker = markerOf(paragraph);
     if (marker.empty()) return std::nullopt;
-    const bool isRendered = hasStopsOfItems(style) && (isBullet(marker) || isNumber(marker));
+    const bool isRendered = listItemIn(paragraph, style).has_value();
     if (!isRendered && style.textLists.empty()) return std::nullopt;
     RtfListItem item;
     const std::size_t depth = style.textLists.size() + (isRendered ? 1 : 0);
     item.level = std::min(depth - 1, kDeepestRtfLevel);
     item.formats = formatsOf(style);
-    item.ownFormat = isNumber(marker) ? kDecimalFormat : kDiscFormat;
+    const bool isNumbered = marker.front() >= u'0' && marker.front() <= u'9';
+    item.ownFormat = isNumbered ? kDecimalFormat : kDiscFormat;
     if (isRendered && depth - 1 == item.formats.size()) {
         item.formats.push_back(item.ownFormat);
     } else if (!item.formats.empty()) {

@@ -9,14 +9,12 @@
 #include <optional>
 #include <vector>
 
-#include "QZCore/richtext/paragraph_style.h"
+#include "QZCore/richtext/list_items.h"
 
 namespace QZCore {
 
 inline constexpr StringView kDiscFormat = u"{disc}";
 inline constexpr StringView kDecimalFormat = u"{decimal}";
-inline constexpr char16_t kFilledBullet = u'\u25CF';
-inline constexpr char16_t kOpenBullet = u'\u25E6';
 
 /// RTF numbers the levels of a list from 0 to this.
 inline constexpr std::size_t kDeepestRtfLevel = 8;

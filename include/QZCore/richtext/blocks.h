@@ -68,8 +68,10 @@ public:
     [[nodiscard]] bool isFixedWidth(const Font& font);
 
 private:
-    [[nodiscard]] Block blockOf(const RichText& text, Range& line);
-    [[nodiscard]] Block otherBlockOf(const RichText& text, Range paragraph);
+    struct Line;
+
+    [[nodiscard]] Block blockOf(const RichText& text, Line& line);
+    [[nodiscard]] Block otherBlockOf(const RichText& text, const Line& line);
     [[nodiscard]] bool isQuoted(const TextAttributes& attributes) const;
 
     TextAttributes base_;

@@ -36,15 +36,15 @@ struct TextListItem {
 struct FoundTextListItem {
     /// What it is.
     TextListItem item;
-    /// Its text.
+    /// Its text, counted from the start of the paragraph.
     Range text;
 };
 
-/// The item that `paragraph` is: a tab, its marker, a tab and its text, with a
-/// stop where markers end and one where texts start. A paragraph that was only
-/// typed so is none, since it lacks the stops.
-[[nodiscard]] QZ_EXPORT std::optional<FoundTextListItem> listItemAt(const RichText& text,
-                                                                    Range paragraph);
+/// The item that a paragraph of that style is: a tab, its marker, a tab and its
+/// text, with a stop where markers end and one where texts start. A paragraph
+/// that was only typed so is none, since it lacks the stops.
+[[nodiscard]] QZ_EXPORT std::optional<FoundTextListItem> listItemIn(StringView paragraph,
+                                                                    const ParagraphStyle& style);
 
 /// How far the list around a paragraph of that style indents its text: where the
 /// texts of items start, which paragraphs below an item know, too. 0 outside of
