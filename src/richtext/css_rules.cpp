@@ -12,6 +12,7 @@ constexpr std::size_t kMostCompounds = 16;
 constexpr std::size_t kMostElementsAround = 64;
 
 constexpr StringView kAnyType = u"*";
+constexpr StringView kMarks = u".#:";  // of classes, identifiers and pseudo-classes
 
 /// `sheet` with a blank for each comment.
 String withoutComments(StringView sheet) {
@@ -76,7 +77,7 @@ void CssRules::addRule(StringView selectors, StringView block) {
         Rule rule;
         rule.declarations = index;
         if (readSelector(selectors.substr(at, end - at), rule)) {
-            auto& rules = rulesOf_[rule.compounds.back().back()];
+            auto& rules = rulesOf_[rule.compounds.back().keys.back()];
             if (rules.size() < kMostRulesOfAKey) {
                 rules.push_back(static_cast<std::uint32_t>(rules_.size()));
                 rules_.push_back(std::move(rule));
@@ -87,55 +88,79 @@ void CssRules::addRule(StringView selectors, StringView block) {
 }
 
 bool CssRules::readSelector(StringView selector, Rule& rule) {
-    const std::vector<StringView> compounds = cssParts(selector);
-    if (compounds.empty() || compounds.size() > kMostCompounds) return false;
-    return std::ranges::all_of(compounds,
-                               [&](StringView compound) { return readCompound(compound, rule); });
+    Compound next;
+    for (std::size_t at = 0; at < selector.size();) {
+        const std::size_t end = findInCss(selector, at, u" \t\n\f>");
+        const StringView text = selector.substr(at, end - at);
+        if (!text.empty()) {
+            if (rule.compounds.size() == kMostCompounds || !readCompound(text, rule, next)) {
+                return false;
+            }
+            rule.compounds.push_back(std::exchange(next, {}));
+        }
+        if (end < selector.size() && selector[end] == u'>') {
+            if (next.isChild || rule.compounds.empty()) return false;
+            next.isChild = true;
+        }
+        at = end + 1;
+    }
+    return !rule.compounds.empty() && !next.isChild;
 }
 
 /// The key that fewest elements have comes last.
-bool CssRules::readCompound(StringView compound, Rule& rule) {
+bool CssRules::readCompound(StringView text, Rule& rule, Compound& compound) {
     constexpr std::uint32_t kSpecificityOfClass = 1 << 8;
     constexpr std::uint32_t kSpecificityOfIdentifier = 1 << 16;
-    CssKeys keys;
-    while (!compound.empty()) {
-        const bool isType = compound.front() != u'.' && compound.front() != u'#';
+    while (!text.empty()) {
+        const bool isType = kMarks.find(text.front()) == kMarks.npos;
         const std::size_t end =
-            std::min(compound.find_first_of(u".#:>+~[", isType ? 0 : 1), compound.size());
-        const StringView name = compound.substr(0, end);
-        if (name.size() < (isType ? 1U : 2U) || keys.size() == kMostCompounds) return false;
-        keys.push_back(names_.numberOf(isType ? inAsciiLowerCase(name) : String(name)));
+            std::min(text.find_first_of(u".#:+~[", isType ? 0 : 1), text.size());
+        const StringView name = text.substr(0, end);
+        if (name.size() < (isType ? 1U : 2U) || compound.keys.size() == kMostCompounds) {
+            return false;
+        }
+        compound.keys.push_back(names_.numberOf(isType ? inAsciiLowerCase(name) : String(name)));
         if (!isType) {
             rule.specificity +=
                 name.front() == u'#' ? kSpecificityOfIdentifier : kSpecificityOfClass;
         } else if (name != kAnyType) {
             ++rule.specificity;
         }
-        compound.remove_prefix(end);
+        text.remove_prefix(end);
     }
-    rule.compounds.push_back(std::move(keys));
     return true;
 }
 
-/// Within others: the nearest element that fits is as good as any.
-bool CssRules::selects(const Rule& rule, const std::vector<CssKeys>& path) {
+/// Goes outwards. What stands directly within something else is found together
+/// with that; of elements anywhere around, the nearest that fits is as good as
+/// any.
+bool CssRules::selects(const Rule& rule, const CssPlace& element) {
+    const CssPlace* start = &element;  // of the compounds that belong together
     std::size_t left = rule.compounds.size();
-    if (!hasAll(path.back(), rule.compounds[--left])) return false;
-    const std::size_t count = std::min(path.size() - 1, kMostElementsAround);
-    for (std::size_t i = 0; left > 0 && i < count; ++i) {
-        if (hasAll(path[path.size() - 2 - i], rule.compounds[left - 1])) --left;
+    for (std::size_t seen = 0; start != nullptr && seen <= kMostElementsAround; ++seen) {
+        std::size_t open = left;
+        const CssPlace* at = start;
+        bool goesOn = true;
+        for (; goesOn && at != nullptr && hasAll(*at->keys, rule.compounds[open - 1].keys);
+             at = at->around) {
+            goesOn = rule.compounds[--open].isChild;
+        }
+        const bool fits = !goesOn;
+        if (fits && open == 0) return true;
+        if (!fits && left == rule.compounds.size()) return false;
+        if (fits) left = open;
+        start = fits ? at : start->around;
     }
-    return left == 0;
+    return false;
 }
 
-std::vector<const CssDeclarations*> CssRules::declarationsFor(
-    const std::vector<CssKeys>& path) const {
+std::vector<const CssDeclarations*> CssRules::declarationsFor(const CssPlace& element) const {
     std::vector<std::uint32_t> found;
-    for (const std::uint32_t key : path.back()) {
+    for (const std::uint32_t key : *element.keys) {
         const auto rules = rulesOf_.find(key);
         if (rules == rulesOf_.end()) continue;
         std::ranges::copy_if(rules->second, std::back_inserter(found),
-                             [&](std::uint32_t index) { return selects(rules_[index], path); });
+                             [&](std::uint32_t index) { return selects(rules_[index], element); });
     }
     std::ranges::sort(found, {}, [&](std::uint32_t index) {
         return std::pair(rules_[index].specificity, index);

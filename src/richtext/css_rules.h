@@ -1,8 +1,9 @@
 // Style sheets: which declarations an element gets.
 //
 // Selectors are lists of compounds of a type, classes and an identifier, with
-// blanks between them for elements within others. A rule with any other
-// selector is left out, and so are at-rules.
+// blanks between them for elements within others and ">" for those directly
+// within. Of pseudo-classes ":link" and ":root" select something. A rule with
+// any other selector is left out, and so are at-rules.
 #pragma once
 
 #include <cstdint>
@@ -13,9 +14,15 @@
 
 namespace QZCore {
 
-/// What selectors ask of an element: its type, classes ("." before them) and
-/// identifier ("#"), as numbers of one `CssNames`.
+/// What selectors ask of an element: its type, classes ("." before them),
+/// pseudo-classes (":") and identifier ("#"), as numbers of one `CssNames`.
 using CssKeys = std::vector<std::uint32_t>;
+
+/// The keys of an element, and the element around it.
+struct CssPlace {
+    const CssKeys* keys = nullptr;
+    const CssPlace* around = nullptr;
+};
 
 /// Numbers names, so that they compare quickly.
 class CssNames {
@@ -36,24 +43,27 @@ public:
     /// Adds the rules of a style sheet.
     void add(StringView sheet);
 
-    /// The declarations of the rules that select the last of `path`, an element
-    /// and those around it, outermost first; the rule that wins comes last.
-    /// Only so many rules and elements around are looked at that the cost has a
-    /// bound.
+    /// The declarations of the rules that select an element; the rule that wins
+    /// comes last. Only so many rules and elements around are looked at that the
+    /// cost has a bound.
     [[nodiscard]] std::vector<const CssDeclarations*> declarationsFor(
-        const std::vector<CssKeys>& path) const;
+        const CssPlace& element) const;
 
 private:
+    struct Compound {
+        CssKeys keys;
+        bool isChild = false;  // of an element that the compound before selects
+    };
     struct Rule {
-        std::vector<CssKeys> compounds;  // of a selector, the outermost first
+        std::vector<Compound> compounds;  // of a selector, the outermost first
         std::uint32_t specificity = 0;
         std::size_t declarations = 0;  // by index
     };
 
     void addRule(StringView selectors, StringView block);
     [[nodiscard]] bool readSelector(StringView selector, Rule& rule);
-    [[nodiscard]] bool readCompound(StringView compound, Rule& rule);
-    [[nodiscard]] static bool selects(const Rule& rule, const std::vector<CssKeys>& path);
+    [[nodiscard]] bool readCompound(StringView text, Rule& rule, Compound& compound);
+    [[nodiscard]] static bool selects(const Rule& rule, const CssPlace& element);
 
     CssNames& names_;
     std::vector<Rule> rules_;

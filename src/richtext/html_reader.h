@@ -6,12 +6,11 @@
 #pragma once
 
 #include <deque>
-#include <optional>
+#include <memory>
 #include <vector>
 
-#include "richtext/css_rules.h"
-#include "richtext/html_attributes.h"
 #include "richtext/html_images.h"
+#include "richtext/html_looks.h"
 #include "richtext/html_nesting.h"
 #include "richtext/html_text.h"
 #include "richtext/html_tokenizer.h"
@@ -21,8 +20,6 @@ namespace QZCore {
 /// Reads one document.
 class HtmlReader {
 public:
-    HtmlReader();
-
     /// The text that `html`, whose lines end in line feeds, shows.
     [[nodiscard]] RichText read(StringView html);
 
@@ -31,10 +28,7 @@ private:
 
     /// An open element.
     struct Element {
-        HtmlToken tag = {};
-        HtmlLook look = {};
-        /// Made when text first needs them.
-        std::optional<TextAttributes> attributes = {};
+        std::shared_ptr<HtmlStyled> styled;
         /// The place of the element whose look paragraphs have, this or one
         /// around.
         std::size_t block = 0;
@@ -42,35 +36,34 @@ private:
         std::size_t list = kNoList;
         HtmlItem* item = nullptr;
         bool isShown = false;
+
+        [[nodiscard]] std::uint32_t number() const { return styled->tag->element; }
+        [[nodiscard]] const HtmlToken& tag() const { return styled->tag->token; }
+        [[nodiscard]] const HtmlLook& look() const { return styled->look; }
     };
 
     void take(HtmlToken& token);
     void takeText(const String& text);
     void takeStart(HtmlToken& token);
     void takeEnd(const HtmlToken& token);
-    void takeVoid(const HtmlToken& tag);
+    void takeVoid(HtmlToken& token, std::uint32_t element);
+    void addImage(const HtmlStyled& image);
 
-    void keepForRoot(HtmlToken& tag);
+    void keepForRoot(HtmlToken& token);
     void openRoot();
-    void open(HtmlToken tag);
+    void open(const std::shared_ptr<const HtmlTag>& tag);
     void openBlock(Element& element);
     void openList(Element& element);
     void openItem(Element& element);
     void closeTo(std::size_t size, bool dropsFormatting);
     void closeInnermost();
 
-    [[nodiscard]] HtmlLook lookOf(const HtmlToken& tag);
-    [[nodiscard]] CssKeys keysOf(const HtmlToken& tag);
     [[nodiscard]] HtmlPlace place();
-    [[nodiscard]] const TextAttributes& attributesOf(Element& element);
 
-    CssNames names_;  // go on from those of the default styles
-    CssRules rules_{names_};
-    HtmlAttributes attributes_;
+    HtmlLooks looks_;
     HtmlImages images_;
     HtmlNesting nesting_;
     std::vector<Element> open_;
-    std::vector<CssKeys> keys_;  // of the open elements
     std::vector<HtmlList> lists_;
     std::deque<HtmlItem> items_;
     HtmlText text_;
