@@ -21,8 +21,7 @@ enum HtmlTrait : std::uint16_t {
     kBarrier = 1 << 7,  // tags within end nothing outside
     kHead = 1 << 8,     // it may stand in the head of a document
     kPage = 1 << 9,     // there without its tags, which only add attributes
-    kRaw = 1 << 10,     // its contents are no markup
-    kKept = 1 << 11,    // a line feed behind its start tag shows nothing
+    kKept = 1 << 10,    // a line feed behind its start tag shows nothing
 };
 
 /// A row of the table of elements.
@@ -80,7 +79,6 @@ inline constexpr HtmlElementRow kHtmlElements[] = {
     {u"hr", kVoid | kBlock},
     {u"html", kPage},
     {u"i", kFormatting},
-    {u"iframe", kRaw},
     {u"img", kVoid},
     {u"input", kVoid},
     {u"ins", kFormatting},
@@ -94,25 +92,23 @@ inline constexpr HtmlElementRow kHtmlElements[] = {
     {u"meta", kVoid | kHead},
     {u"nav", kBlock},
     {u"nobr", kFormatting},
-    {u"noembed", kRaw},
-    {u"noframes", kRaw},
     {u"noscript", kHead},
     {u"object", kBarrier},
     {u"ol", kList | kBlock},
     {u"option", 0},
     {u"p", kBlock | kText},
     {u"param", kVoid},
-    {u"plaintext", kBlock | kRaw},
+    {u"plaintext", kBlock},
     {u"pre", kBlock | kText | kKept},
     {u"s", kFormatting},
-    {u"script", kHead | kRaw},
+    {u"script", kHead},
     {u"search", kBlock},
     {u"section", kBlock},
     {u"small", kFormatting},
     {u"source", kVoid},
     {u"strike", kFormatting},
     {u"strong", kFormatting},
-    {u"style", kHead | kRaw},
+    {u"style", kHead},
     {u"sub", kFormatting},
     {u"summary", kBlock | kText},
     {u"sup", kFormatting},
@@ -131,7 +127,7 @@ inline constexpr HtmlElementRow kHtmlElements[] = {
     {u"u", kFormatting},
     {u"ul", kList | kBlock},
     {u"wbr", kVoid},
-    {u"xmp", kBlock | kRaw},
+    {u"xmp", kBlock},
 };
 
 /// The number of the elements above; others get numbers from here on.

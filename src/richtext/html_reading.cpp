@@ -1,19 +1,40 @@
 #include "QZCore/richtext/rich_text.h"
+#include "foundation/unit_search.h"
 #include "richtext/flat_text.h"
 #include "richtext/html_reader.h"
 
 namespace QZCore {
 namespace {
 
-/// `text` with line feeds as its only line ends.
-String withLineFeeds(StringView text) {
-    String lines;
-    lines.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isFollowed = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
-        if (!isFollowed) lines += text[i] == u'\r' ? u'\n' : text[i];
+/// Whether a unit may not stay as it is, for a unit or lanes.
+template <class Units>
+auto mayChange(Units unit) {
+    constexpr std::uint16_t kReturn = u'\r';
+    constexpr std::uint16_t kSurrogates = 0xD800;
+    constexpr std::uint16_t kSurrogatesMask = 0xF800;
+    return (unit == kReturn) | ((unit & kSurrogatesMask) == kSurrogates);
+}
+
+/// `html` with line feeds as its only line ends, and without the unpaired
+/// surrogates that no file holds.
+String asDocument(StringView html) {
+    String document;
+    document.reserve(html.size());
+    for (std::size_t at = 0; at < html.size();) {
+        const std::size_t end = findFirst(html, at, [](auto unit) { return mayChange(unit); });
+        document += html.substr(at, end - at);
+        if (end == html.size()) break;
+        const CodePoint character = codePointAt(html, end);
+        at = end + character.length;
+        if (character.length == 2) {
+            document += html.substr(end, 2);
+        } else if (html[end] != u'\r') {
+            document += u'\uFFFD';
+        } else if (!html.substr(at).starts_with(u'\n')) {
+            document += u'\n';
+        }
     }
-    return lines;
+    return document;
 }
 
 }  // namespace
@@ -25,9 +46,7 @@ std::optional<RichText> RichText::attributedStringWithHTML(StringView html) {
     // fit the flat form.
     constexpr std::size_t kLongest = kFlatTextLimit / 8;
     if (html.size() > kLongest) return std::nullopt;
-    // As UTF-8, in which there are no unpaired surrogates.
-    const std::string document = toUTF8(String(kPrefix) + String(html));
-    return HtmlReader().read(withLineFeeds(fromUTF8(document)));
+    return HtmlReader().read(asDocument(String(kPrefix) + String(html)));
 }
 
 }  // namespace QZCore

@@ -26,37 +26,62 @@ TextAttributes withReadableColor(const TextAttributes& attributes) {
 class StyleNumbers {
 public:
     [[nodiscard]] std::uint32_t numberOf(const ParagraphStyle& style) {
-        if (!styles_.empty() && style == styles_[last_]) return last_;
-        std::vector<std::uint32_t>& alike = byHash_[hashOf(style)];
-        const auto known = std::ranges::find_if(
-            alike, [&](std::uint32_t number) { return styles_[number] == style; });
-        if (known != alike.end()) return last_ = *known;
-        last_ = static_cast<std::uint32_t>(styles_.size());
-        alike.push_back(last_);
-        styles_.push_back(style);
-        values_.push_back(style == ParagraphStyle() ? Value() : Value::boxed(style));
-        return last_;
+        if (last_ != nullptr && style == last_->first) return last_->second;
+        const auto next = static_cast<std::uint32_t>(values_.size());
+        const auto [known, isNew] = numbers_.try_emplace(style, next);
+        if (isNew) values_.push_back(style == ParagraphStyle() ? Value() : Value::boxed(style));
+        last_ = &*known;
+        return known->second;
     }
 
     [[nodiscard]] const Value& value(std::uint32_t number) const { return values_[number]; }
 
 private:
-    std::vector<ParagraphStyle> styles_;
+    struct Hash {
+        std::size_t operator()(const ParagraphStyle& style) const { return hashOf(style); }
+    };
+    using Numbers = std::unordered_map<ParagraphStyle, std::uint32_t, Hash>;
+
     std::vector<Value> values_;
-    std::unordered_map<std::size_t, std::vector<std::uint32_t>> byHash_;
-    std::uint32_t last_ = 0;
+    Numbers numbers_;
+    const Numbers::value_type* last_ = nullptr;
 };
 
-/// The room of the markers of a list: one for all of its items.
-double markerWidthOf(const HtmlList& list, const HtmlItem& item) {
-    constexpr std::size_t kMostItems = 99;  // numbers have no more digits than for so many
-    const auto greatest = static_cast<std::size_t>(list.greatest);
-    const String sample =
-        list.isNumbered ? widestItemNumber(std::min(std::max(list.items, greatest), kMostItems))
-                        : item.marker;
-    const Font* font = item.attributes.font();
-    return std::ceil(FontManager::shared().widthOfText(sample, font == nullptr ? Font{} : *font));
-}
+/// The room of the markers of lists: one for all items of a list.
+class MarkerWidths {
+public:
+    /// That of `list`, of which `item` is the first one seen.
+    [[nodiscard]] double widthFor(const HtmlList& list, const HtmlItem& item) {
+        const auto [known, isNew] = byList_.try_emplace(item.list);
+        if (isNew) known->second = widthOf(sampleOf(list, item), item.attributes);
+        return known->second;
+    }
+
+private:
+    struct Hash {
+        std::size_t operator()(const TextAttributes& attributes) const { return attributes.hash(); }
+    };
+
+    [[nodiscard]] static String sampleOf(const HtmlList& list, const HtmlItem& item) {
+        constexpr std::size_t kMostItems = 99;  // numbers have no more digits than for so many
+        if (!list.isNumbered) return item.marker;
+        const auto greatest = static_cast<std::size_t>(list.greatest);
+        return widestItemNumber(std::min(std::max(list.items, greatest), kMostItems));
+    }
+
+    [[nodiscard]] double widthOf(const String& sample, const TextAttributes& attributes) {
+        const auto [known, isNew] = bySample_[attributes].try_emplace(sample);
+        if (isNew) {
+            const Font* font = attributes.font();
+            known->second = std::ceil(
+                FontManager::shared().widthOfText(sample, font == nullptr ? Font{} : *font));
+        }
+        return known->second;
+    }
+
+    std::unordered_map<std::size_t, double> byList_;
+    std::unordered_map<TextAttributes, std::unordered_map<String, double>, Hash> bySample_;
+};
 
 /// What an item and the paragraphs below it in the item need.
 void applyList(ParagraphStyle& style, const HtmlList& list, double markerWidth, bool hasMarker) {
@@ -238,15 +263,13 @@ FlatText HtmlText::inParagraphStyles(const std::vector<HtmlList>& lists,
     FlatText flat;
     StyleNumbers styles;
     std::unordered_map<std::uint64_t, std::uint32_t> ids;  // by style and attributes
-    std::unordered_map<std::size_t, double> markerWidths;  // by list
+    MarkerWidths widths;
     std::uint32_t start = 0;
     std::size_t run = 0;
     for (Paragraph& paragraph : paragraphs_) {
         if (const HtmlItem* item = paragraph.item) {
             const HtmlList& list = lists[item->list];
-            double& width = markerWidths.try_emplace(item->list, -1.0).first->second;
-            if (width < 0) width = markerWidthOf(list, *item);
-            applyList(paragraph.style, list, width, paragraph.hasMarker);
+            applyList(paragraph.style, list, widths.widthFor(list, *item), paragraph.hasMarker);
         }
         const std::uint64_t style = styles.numberOf(paragraph.style);
         for (; start < paragraph.end; start = std::min(runs_[run].end, paragraph.end)) {

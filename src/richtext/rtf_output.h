@@ -16,6 +16,9 @@ namespace QZCore {
 /// Writes a document, or a piece of one, from start to end.
 class RtfOutput {
 public:
+    /// Makes room for that many bytes.
+    void reserve(std::size_t bytes) { bytes_.reserve(bytes); }
+
     /// A control word.
     void word(std::string_view name);
     /// A control word with a number.

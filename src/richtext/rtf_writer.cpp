@@ -32,17 +32,21 @@ public:
     RtfWriter(const FlatText& text, RtfPictures& pictures)
         : text_(text), pictures_(pictures), codes_(text.palette.size()) {}
 
-    [[nodiscard]] std::string write() {
+    [[nodiscard]] Data write() {
+        body_.reserve(2 * text_.text.size());
         while (at_ < text_.text.size()) writeParagraph();
         closeRun();
-        RtfOutput document;
-        document.mark("{\\rtf1\\ansi\\ansicpg1252\\uc1\n");
-        tables_.fonts.write(document);
-        tables_.colors.write(document);
-        lists_.write(document);
-        document.mark(body_.bytes());
-        document.closeGroup();
-        return document.bytes();
+        body_.closeGroup();
+        RtfOutput head;
+        head.mark("{\\rtf1\\ansi\\ansicpg1252\\uc1\n");
+        tables_.fonts.write(head);
+        tables_.colors.write(head);
+        lists_.write(head);
+        Data document;
+        document.reserve(head.bytes().size() + body_.bytes().size());
+        document.assign(head.bytes().begin(), head.bytes().end());
+        document.insert(document.end(), body_.bytes().begin(), body_.bytes().end());
+        return document;
     }
 
 private:
@@ -212,7 +216,7 @@ private:
 
 }  // namespace
 
-std::string rtfDocument(const RichText& text, RtfPictures& pictures) {
+Data rtfDocument(const RichText& text, RtfPictures& pictures) {
     const FlatText flat = FlatTextAccess::flattened(text, {0, kFlatTextLimit - 1});
     return RtfWriter(flat, pictures).write();
 }

@@ -1,14 +1,13 @@
 // Rich text as an RTF document.
 #pragma once
 
-#include <string>
-
+#include "QZCore/foundation/data.h"
 #include "QZCore/richtext/rich_text.h"
 #include "richtext/rtf_pictures.h"
 
 namespace QZCore {
 
 /// `text` as a document whose images are written by `pictures`.
-[[nodiscard]] std::string rtfDocument(const RichText& text, RtfPictures& pictures);
+[[nodiscard]] Data rtfDocument(const RichText& text, RtfPictures& pictures);
 
 }  // namespace QZCore

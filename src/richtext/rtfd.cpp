@@ -10,8 +10,6 @@ namespace {
 /// The name of the document among its images.
 constexpr std::string_view kDocumentName = "TXT.rtf";
 
-Data dataOf(std::string_view text) { return {text.begin(), text.end()}; }
-
 /// The document, at the top or in the folder that was archived.
 RtfFiles::const_iterator documentIn(const RtfFiles& files) {
     auto file = files.begin();
@@ -26,13 +24,13 @@ RtfFiles::const_iterator documentIn(const RtfFiles& files) {
 
 Data RichText::RTF() const {
     EmbeddedRtfPictures pictures;
-    return dataOf(rtfDocument(*this, pictures));
+    return rtfDocument(*this, pictures);
 }
 
 Data RichText::RTFD() const {
     BundledRtfPictures pictures;
     ZipWriter archive;
-    archive.add(kDocumentName, bytesOf(rtfDocument(*this, pictures)));
+    archive.add(kDocumentName, rtfDocument(*this, pictures));
     for (const BundledRtfPictures::File& file : pictures.files()) {
         archive.add(file.name, file.image->data);
     }
