@@ -27,6 +27,15 @@ QZCore::String wordOf(std::size_t run) {
     return word;
 }
 
+/// What an inspector asks of a whole text to show its state.
+struct Answers {
+    bool hasOneColor = false;
+    bool hasOneFontAndSize = false;
+    bool hasLinks = false;
+    bool hasLists = false;
+    bool hasDirections = false;
+};
+
 class Ours {
 public:
     explicit Ours(std::size_t size) {
@@ -47,9 +56,9 @@ public:
     [[nodiscard]] std::size_t commonAttributes() const {
         return text_.commonAttributes()->entries().size();
     }
-    [[nodiscard]] bool askWholeText() const {
-        return text_.hasSameTextColor() || !text_.hasSameFontAndSize() || text_.containsLinks() ||
-               text_.containsTextBlocksOrLists() || text_.containsWritingDirection();
+    [[nodiscard]] Answers askWholeText() const {
+        return {text_.hasSameTextColor(), text_.hasSameFontAndSize(), text_.containsLinks(),
+                text_.containsTextBlocksOrLists(), text_.containsWritingDirection()};
     }
     void enlarge(double size) {
         QZCore::changeCharacters(text_, {0, text_.length()},
@@ -103,12 +112,26 @@ public:
         });
         return bold + red;
     }
-    [[nodiscard]] bool askWholeText() const {
-        bool found = false;
+    [[nodiscard]] Answers askWholeText() const {
+        const QTextCharFormat first = document_->begin().begin().fragment().charFormat();
+        const QBrush color = first.foreground();
+        const QVariant families = first.fontFamilies();
+        const double size = first.fontPointSize();
+        Answers answers{.hasOneColor = true, .hasOneFontAndSize = true};
         forEachRun([&](const QTextCharFormat& format, int /*length*/) {
-            found |= format.isAnchor() || format.fontPointSize() > 100;
+            answers.hasOneColor = answers.hasOneColor && format.foreground() == color;
+            answers.hasOneFontAndSize = answers.hasOneFontAndSize &&
+                                        format.fontPointSize() == size &&
+                                        format.fontFamilies() == families;
+            answers.hasLinks = answers.hasLinks || format.isAnchor();
         });
-        return found;
+        for (QTextBlock block = document_->begin(); block.isValid(); block = block.next()) {
+            answers.hasLists = answers.hasLists || block.textList() != nullptr;
+            answers.hasDirections =
+                answers.hasDirections ||
+                block.blockFormat().layoutDirection() != Qt::LayoutDirectionAuto;
+        }
+        return answers;
     }
     void enlarge(double size) {
         QTextCharFormat format;

@@ -109,9 +109,15 @@ void RtfContents::receiveBinary(std::string_view bytes, const RtfGroup& group) {
 void RtfContents::endParagraph(const RtfGroup& group) {
     const bool isMarker = group.destination == ListMarker;
     if (!isMarker && !isRtfText(group.destination)) return;
+    if (group.character.isHidden) return;
     // Some programs write whole items where only their markers belong.
     if (isMarker) builder_.append(std::exchange(marker_, {}), markerLook_);
     builder_.endParagraph(*group.paragraph, group.character);
+}
+
+void RtfContents::endRow(const RtfGroup& group) {
+    if (isRtfText(group.destination)) builder_.removeLastTab();
+    endParagraph(group);
 }
 
 std::optional<std::int32_t> RtfContents::codePageIn(const RtfGroup& group) const {

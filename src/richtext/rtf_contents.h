@@ -35,6 +35,8 @@ public:
     void receiveBinary(std::string_view bytes, const RtfGroup& group);
     /// The end of a paragraph.
     void endParagraph(const RtfGroup& group);
+    /// The end of a row of cells, each of which has ended with a tab.
+    void endRow(const RtfGroup& group);
 
     /// The code page of bytes in `group`; nothing for the document's own.
     [[nodiscard]] std::optional<std::int32_t> codePageIn(const RtfGroup& group) const;

@@ -87,8 +87,8 @@ public:
     [[nodiscard]] const std::vector<Level>& levelsOf(std::int32_t number) const;
 
 private:
-    std::vector<Level> open_;  // of the list that the table has reached
-    std::unordered_map<std::int32_t, std::vector<Level>> lists_;
+    std::vector<std::vector<Level>> lists_;
+    std::unordered_map<std::int32_t, std::size_t> places_;  // of lists, by identifier
     std::unordered_map<std::int32_t, std::int32_t> overrides_;
     std::int32_t overridden_ = 0;
     std::vector<Level> none_;

@@ -24,6 +24,12 @@ void writeMarker(RtfNumbering numbering, char16_t bullet, std::size_t level, Rtf
     out.mark(";}");
 }
 
+/// The number of an item whose marker is one.
+std::optional<std::int64_t> numberOf(const RtfListItem& item) {
+    if (item.ownFormat != kDecimalFormat) return std::nullopt;
+    return std::clamp<std::int64_t>(integerValue(item.marker), 0, kLargestNumber);
+}
+
 }  // namespace
 
 std::size_t RtfListTable::listOf(const RtfListItem& item, double textIndent) {
@@ -41,16 +47,21 @@ std::size_t RtfListTable::listOf(const RtfListItem& item, double textIndent) {
     Level& level = list[item.level];
     if (level.format.empty()) {
         level.format = item.ownFormat;
-        level.start = std::clamp<std::int64_t>(integerValue(item.marker), 1, kLargestNumber);
+        level.start = level.next = numberOf(item).value_or(1);
         if (item.marker.size() == 1) level.bullet = item.marker[0];
         level.textIndent = textIndent;
         level.markerStop = item.markerStop;
         level.isMarkerSetRight = item.isMarkerSetRight;
     }
+    ++level.next;
+    for (std::size_t within = item.level + 1; within < list.size(); ++within) {
+        list[within].next = list[within].start;
+    }
     return number + 1;
 }
 
-/// Whether the levels that `list` has so far are those of `item`.
+/// Whether the levels that `list` has so far are those of `item`, and its number
+/// is the one that comes next.
 bool RtfListTable::fits(const List& list, const RtfListItem& item) const {
     const auto agrees = [&](std::size_t level, const String& format) {
         return level >= list.size() || list[level].format.empty() || list[level].format == format;
@@ -58,6 +69,9 @@ bool RtfListTable::fits(const List& list, const RtfListItem& item) const {
     for (std::size_t level = 0; level < item.formats.size(); ++level) {
         if (!agrees(level, item.formats[level])) return false;
     }
+    const bool isNew = item.level >= list.size() || list[item.level].format.empty();
+    const auto number = numberOf(item);
+    if (!isNew && number && *number != list[item.level].next) return false;
     return agrees(item.level, item.ownFormat);
 }
 

@@ -13,7 +13,8 @@ namespace QZCore {
 ///
 /// A list of RTF has one kind of markers for each level and numbers its items
 /// by itself. Items that follow each other share a list as far as their kinds
-/// of markers allow; a level whose markers change goes on in a list of its own.
+/// of markers allow; a level whose markers change, or whose numbers do not
+/// follow each other, goes on in a list of its own.
 class RtfListTable {
 public:
     /// The list, from 1 on, to which `item` belongs. Its text starts at
@@ -28,6 +29,7 @@ private:
         String format;
         char16_t bullet = kFilledBullet;
         std::int64_t start = 1;
+        std::int64_t next = 1;  // the number that readers give to the next item
         double textIndent = 0;
         double markerStop = 0;
         bool isMarkerSetRight = true;

@@ -2,20 +2,21 @@
 
 namespace QZCore {
 void RtfLists::word(std::string_view name, RtfNumber number) {
-    if (name == "list") {
-        open_.clear();
+    if (name == "list") lists_.emplace_back();
+    if (lists_.empty()) return;
+    std::vector<Level>& levels = lists_.back();
+    if (name == "listid") {
+        places_[number.value] = lists_.size() - 1;
     } else if (name == "listlevel") {
-        if (open_.size() <= kDeepestRtfLevel) open_.emplace_back();
-    } else if (name == "listid") {
-        lists_[number.value] = open_;
-    } else if (open_.empty()) {
+        if (levels.size() <= kDeepestRtfLevel) levels.emplace_back();
+    } else if (levels.empty()) {
         return;
     } else if (name == "levelnfc" || name == "levelnfcn") {
-        open_.back().numbering = number.value;
+        levels.back().numbering = number.value;
     } else if (name == "li") {
-        open_.back().indent = number.length();
+        levels.back().indent = number.length();
     } else if (name == "fi") {
-        open_.back().firstIndent = number.length();
+        levels.back().firstIndent = number.length();
     }
 }
 
@@ -26,8 +27,8 @@ void RtfLists::overrideWord(std::string_view name, RtfNumber number) {
 
 const std::vector<RtfLists::Level>& RtfLists::levelsOf(std::int32_t number) const {
     const auto list = overrides_.find(number);
-    const auto levels = list == overrides_.end() ? lists_.end() : lists_.find(list->second);
-    return levels == lists_.end() ? none_ : levels->second;
+    const auto place = list == overrides_.end() ? places_.end() : places_.find(list->second);
+    return place == places_.end() ? none_ : lists_[place->second];
 }
 
 }  // namespace QZCore

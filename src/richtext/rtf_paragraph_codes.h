@@ -8,10 +8,6 @@
 
 namespace QZCore {
 
-/// The width of the text on the page that readers take when a document names
-/// none, in points.
-inline constexpr double kRtfTextWidth = 432;
-
 /// The control words that set all of the look of a paragraph. Lists are no part
 /// of it. Of the text blocks around a paragraph only the innermost is written,
 /// without its margin.

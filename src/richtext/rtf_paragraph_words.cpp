@@ -27,6 +27,11 @@ void addTab(P& p, N n) {
     p.nextTab = TextAlignment::Natural;
 }
 
+/// Lines that reach into the margin end so far from the start of the text.
+void setTailIndent(P& p, N n) {
+    p.style.tailIndent = n.value < 0 ? kRtfTextWidth - pointsOf(n) : 0 - pointsOf(n);
+}
+
 constexpr RtfWordRow row(std::string_view name, RtfParagraphChange change) {
     return {name, change};
 }
@@ -41,7 +46,7 @@ constexpr RtfWordRow kWords[] = {
     row("rtlpar", [](P& p, N) { p.style.baseWritingDirection = WritingDirection::RightToLeft; }),
     row("li", [](P& p, N n) { p.indent = n.length(); }),
     row("fi", [](P& p, N n) { p.firstIndent = n.length(); }),
-    row("ri", [](P& p, N n) { p.style.tailIndent = 0 - pointsOf(n); }),
+    row("ri", setTailIndent),
     row("sb", [](P& p, N n) { p.style.paragraphSpacingBefore = pointsOf(n); }),
     row("sa", [](P& p, N n) { p.style.paragraphSpacing = pointsOf(n); }),
     row("sl", [](P& p, N n) { p.lineHeight = n.length(); }),

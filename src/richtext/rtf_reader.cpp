@@ -107,6 +107,7 @@ private:
 
     void takeCharacter(char16_t character) {
         if (character == u'\n') return contents_.endParagraph(group_);
+        if (character == kRtfRowEnd) return contents_.endRow(group_);
         contents_.receive({&character, 1}, group_);
     }
 
@@ -140,11 +141,18 @@ private:
         standInsLeft_ = hasStandIn ? 1 : 0;
     }
 
-    void startDestination(RtfDestination destination, std::string_view name) {
+    void startDestination(RtfDestination destination) {
         const bool isProperty = destination == PropertyName || destination == PropertyValue;
         if (isProperty && group_.destination != PictureProperties) return;
-        if (group_.destination == Alternatives && name != "ud") return;
+        if (destination == Around) return startInPlaceOfOuter();
+        if (group_.destination == Alternatives) return;
         contents_.start(destination, group_);
+    }
+
+    /// What is read in place of something else goes where that would have gone.
+    void startInPlaceOfOuter() {
+        if (group_.destination != Alternatives || groups_.size() < 2) return;
+        group_.destination = groups_[groups_.size() - 2].destination;
     }
 
     // ---- Control words ----
@@ -158,7 +166,7 @@ private:
         const RtfWord* known = rtfWordNamed(token.text);
         const bool isIgnorable = std::exchange(group_.isIgnorable, false);
         const auto* destination = known == nullptr ? nullptr : std::get_if<RtfDestination>(known);
-        if (destination != nullptr) return startDestination(*destination, token.text);
+        if (destination != nullptr) return startDestination(*destination);
         if (isIgnorable) {
             group_.destination = Skipped;
         } else if (!contents_.takeWord(token.text, number, group_) && known != nullptr) {
@@ -169,8 +177,15 @@ private:
     void takeUnit(RtfNumber number) {
         flush();
         if (group_.destination == Skipped) return;
-        const auto unit = static_cast<char16_t>(number.value);
-        contents_.receive({&unit, 1}, group_);
+        // Some programs write characters beyond the first plane as one number.
+        if (number.value > 0xFFFF) {
+            decoded_.clear();
+            appendCodePoint(decoded_, static_cast<char32_t>(number.value));
+            contents_.receive(decoded_, group_);
+        } else {
+            const auto unit = static_cast<char16_t>(number.value);
+            contents_.receive({&unit, 1}, group_);
+        }
         standInsLeft_ = static_cast<std::size_t>(group_.standIns);
     }
 

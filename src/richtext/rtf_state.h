@@ -12,6 +12,7 @@ namespace QZCore {
 enum class RtfDestination : std::uint8_t {
     Body,
     Skipped,
+    Around,        // that of the group around, or around the alternatives
     Alternatives,  // of which one is for readers with Unicode
     Field,
     FieldInstruction,
@@ -36,8 +37,8 @@ struct RtfCharacter {
     std::int32_t halfPoints = 0;
     std::int32_t underline = 0;
     std::int32_t strikethrough = 0;
-    std::int32_t foreground = 0;  // numbers of the colour table
-    std::int32_t background = 0;
+    std::int32_t foreground = -1;  // a number of the colour table, or none
+    std::int32_t background = 0;   // likewise; 0 is none for these two
     std::int32_t underlineColor = 0;
     std::int32_t superscript = 0;
     std::int32_t offset = 0;  // in half points

@@ -67,6 +67,15 @@ void RtfTextBuilder::append(const TextAttachment& attachment, const RtfCharacter
               static_cast<std::uint32_t>(looks_.size() - 1));
 }
 
+void RtfTextBuilder::removeLastTab() {
+    if (open_.empty() || text_.text.back() != u'\t') return;
+    text_.text.pop_back();
+    const std::size_t start = open_.size() > 1     ? open_[open_.size() - 2].end
+                              : text_.runs.empty() ? 0
+                                                   : text_.runs.back().end;
+    if (--open_.back().end == start) open_.pop_back();
+}
+
 void RtfTextBuilder::setMarker(StringView marker, const RtfCharacter& character) {
     marker_ = {String(marker), lookOf(character)};
 }
@@ -106,15 +115,17 @@ TextAttributes RtfTextBuilder::attributesOf(const RtfCharacter& character) const
     };
     const auto addColor = [&](const AttributeName& name, std::int32_t number) {
         const std::optional<Color>& color = definitions_.colors.at(number);
-        if (number != 0 && color) attributes.push_back({name, Value::boxed(*color)});
+        if (color) attributes.push_back({name, Value::boxed(*color)});
     };
     if (const auto font = definitions_.fonts.fontOf(character)) {
         attributes.push_back({names.font, Value::boxed(*font)});
     }
     addColor(names.foregroundColor, character.foreground);
-    addColor(names.backgroundColor, character.background);
+    if (character.background != 0) addColor(names.backgroundColor, character.background);
     addNumber(names.underlineStyle, character.underline);
-    if (character.underline != 0) addColor(NSUnderlineColorAttributeName, character.underlineColor);
+    if (character.underline != 0 && character.underlineColor != 0) {
+        addColor(NSUnderlineColorAttributeName, character.underlineColor);
+    }
     addNumber(names.strikethroughStyle, character.strikethrough);
     addNumber(NSSuperscriptAttributeName, character.superscript);
     if (character.offset != 0) {

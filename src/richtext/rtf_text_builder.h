@@ -20,6 +20,8 @@ public:
 
     void append(StringView text, const RtfCharacter& character);
     void append(const TextAttachment& attachment, const RtfCharacter& character);
+    /// Removes the tab that the open paragraph ends with, if it does.
+    void removeLastTab();
     /// Makes the open paragraph an item with this marker.
     void setMarker(StringView marker, const RtfCharacter& character);
     /// Ends the open paragraph with a line feed.

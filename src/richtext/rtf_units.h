@@ -10,4 +10,8 @@ inline constexpr double kHalfPoints = 2;
 /// Multiples of a line are counted in these parts of one.
 inline constexpr double kPartsOfALine = 240;
 
+/// The width of the text on the page that readers take when a document names
+/// none, in points.
+inline constexpr double kRtfTextWidth = 432;
+
 }  // namespace QZCore

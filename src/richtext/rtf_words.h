@@ -32,6 +32,9 @@ using RtfParagraphChange = void (*)(RtfParagraph&, RtfNumber);
 /// or a character.
 using RtfWord = std::variant<RtfCharacterChange, RtfParagraphChange, RtfDestination, char16_t>;
 
+/// What the end of a row of a table is among the characters.
+inline constexpr char16_t kRtfRowEnd = 0x1E;
+
 /// The word named `name`; null when it is not known here.
 [[nodiscard]] const RtfWord* rtfWordNamed(std::string_view name);
 

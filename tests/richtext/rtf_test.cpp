@@ -12,6 +12,7 @@
 #include "support/random_rtf_texts.h"
 #include "support/small_stack.h"
 #include "support/temporary_folder.h"
+#include "support/text_rows.h"
 
 namespace QZCore {
 namespace {
@@ -22,9 +23,11 @@ std::optional<RichText> read(std::string_view document) {
     return richTextFromRTF(bytesOf(document));
 }
 
-/// The text of a document with this body.
-String bodyText(const std::string& body) {
-    const auto text = read("{\\rtf1\\ansi\n" + body + "}");
+/// The text of a document whose body has these bytes.
+String bodyText(StringView body) {
+    std::string document = "{\\rtf1\\ansi\n";
+    for (const char16_t byte : body) document += static_cast<char>(byte);
+    const auto text = read(document + "}");
     REQUIRE(text.has_value());
     return text->string();
 }
@@ -103,53 +106,78 @@ TEST_CASE("a document is written byte for byte like this") {
 }
 
 TEST_CASE("text of any origin is read") {
-    struct Row {
-        const char* why;
-        std::string body;
-        StringView text;
-    };
-    const Row rows[] = {
-        {"line ends are no text", "a\r\nb\n c", u"ab c"},
-        {"escaped braces", "\\{a\\\\b\\}", u"{a\\b}"},
-        {"special characters", "a\\~b\\_\\emdash\\rquote\\tab c", u"a\u00A0b\u2011\u2014\u2019\tc"},
-        {"ends of paragraphs, lines and pages", "a\\par b\\\n\\line\\page", u"a\nb\n\u2028\f"},
-        {"western bytes", "\\'e9\xE8\\'80", u"\u00E9\u00E8\u20AC"},
-        {"another code page", "\\ansicpg1251\\'cf\\'f0", u"\u041F\u0440"},
-        {"a code page of two bytes", "\\ansicpg932\\'82\\'a0\\'83A", u"\u3042\u30A2"},
-        {"UTF-8", "\\ansicpg65001 \\'c3\\'a9", u"\u00E9"},
-        {"an unknown code page is western", "\\ansicpg99999\\'e9", u"\u00E9"},
-        {"the code page of a font", "{\\fonttbl{\\f1\\fcharset161 A;}}{\\f1\\'e1}\\'e1",
+    const testing::TextRow<StringView> rows[] = {
+        {"line ends are no text", u"a\r\nb\n c", u"ab c"},
+        {"escaped braces", u"\\{a\\\\b\\}", u"{a\\b}"},
+        {"special characters", u"a\\~b\\_\\emdash\\rquote\\tab c",
+         u"a\u00A0b\u2011\u2014\u2019\tc"},
+        {"ends of paragraphs, lines and pages", u"a\\par b\\\n\\line\\page", u"a\nb\n\u2028\f"},
+        {"western bytes", u"\\'e9\u00E8\\'80", u"\u00E9\u00E8\u20AC"},
+        {"another code page", u"\\ansicpg1251\\'cf\\'f0", u"\u041F\u0440"},
+        {"a code page of two bytes", u"\\ansicpg932\\'82\\'a0\\'83A", u"\u3042\u30A2"},
+        {"UTF-8", u"\\ansicpg65001 \\'c3\\'a9", u"\u00E9"},
+        {"an unknown code page is western", u"\\ansicpg99999\\'e9", u"\u00E9"},
+        {"the code page of a font", u"{\\fonttbl{\\f1\\fcharset161 A;}}{\\f1\\'e1}\\'e1",
          u"\u03B1\u00E1"},
-        {"old computers", "\\mac\\'8e", u"\u00E9"},
-        {"one stand-in", "\\u8364?a\\u-4 ?b", u"\u20ACa\uFFFCb"},
-        {"several stand-ins", "\\uc2\\u8364\\'80xa{\\uc0\\u65 b}\\u66 cde", u"\u20ACaAbBe"},
-        {"a word is one stand-in, a brace none", "\\u65\\tab b{\\u66}c", u"AbBc"},
-        {"what is not known and may be skipped", "a{\\*\\xyz b{\\b c}}d{\\xyz e}", u"ade"},
-        {"headers and notes", "{\\header a}{\\info{\\title b}}{\\stylesheet c;}d{\\footnote e}",
+        {"old computers", u"\\mac\\'8e", u"\u00E9"},
+        {"one stand-in", u"\\u8364?a\\u-4 ?b", u"\u20ACa\uFFFCb"},
+        {"several stand-ins", u"\\uc2\\u8364\\'80xa{\\uc0\\u65 b}\\u66 cde", u"\u20ACaAbBe"},
+        {"a word is one stand-in, a brace none", u"\\u65\\tab b{\\u66}c", u"AbBc"},
+        {"what is not known and may be skipped", u"a{\\*\\xyz b{\\b c}}d{\\xyz e}", u"ade"},
+        {"headers and notes", u"{\\header a}{\\info{\\title b}}{\\stylesheet c;}d{\\footnote e}",
          u"d"},
-        {"Unicode among alternatives", "{\\upr{a}{\\*\\ud{b}}}c", u"bc"},
-        {"hidden and deleted text", "a{\\v b}{\\deleted c}\\v d\\v0 e", u"ae"},
-        {"fields", "{\\field{\\*\\fldinst PAGE}{\\fldrslt 3}}", u"3"},
-        {"tables", "\\trowd\\cellx1 a\\cell b\\cell\\row c", u"a\tb\t\nc"},
-        {"binary data", "a\\bin3 }}}b\\bin-1 c", u"abc"},
-        {"numbers and symbols that are cut off", "a\\'", u"a"},
-        {"a picture that is none", "{\\pict\\pngblip 00ff}a", u"a"},
-        {"its alternative text", "{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv b}}}00}",
+        {"Unicode among alternatives", u"{\\upr{a}{\\*\\ud{b}}}c", u"bc"},
+        {"hidden and deleted text", u"a{\\v b}{\\deleted c}\\v d\\v0 e", u"ae"},
+        {"fields", u"{\\field{\\*\\fldinst PAGE}{\\fldrslt 3}}", u"3"},
+        {"tables", u"\\trowd\\cellx1 a\\cell b\\cell\\row\\cell c\\cell\\row\\row d",
+         u"a\tb\n\tc\n\nd"},
+        {"hidden ends of paragraphs", u"a{\\v b\\par}c", u"ac"},
+        {"beyond the first plane", u"\\u128512?\\u-10179?\\u-8704?", u"\U0001F600\U0001F600"},
+        {"what is shown in place of an older form stays where that was",
+         u"{\\fonttbl{\\f0{\\upr{a}{\\*\\ud b}};}}{\\listtext{\\*\\shppict{\\pict}}c\\tab}d",
+         u"\tc\td"},
+        {"binary data", u"a\\bin3 }}}b\\bin-1 c", u"abc"},
+        {"numbers and symbols that are cut off", u"a\\'", u"a"},
+        {"a picture that is none", u"{\\pict\\pngblip 00ff}a", u"a"},
+        {"its alternative text", u"{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv b}}}00}",
          u"b"},
-        {"no marker but an item", "{\\listtext\\tab a{\\par}}b", u"\ta\nb"},
-        {"an old list", "{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt}a", u"\t\u25CF\ta"},
+        {"no marker but an item", u"{\\listtext\\tab a{\\par}}b", u"\ta\nb"},
+        {"an old list", u"{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt}a", u"\t\u25CF\ta"},
     };
-    for (const Row& row : rows) {
-        CAPTURE(row.why);
-        CHECK(bodyText(row.body) == row.text);
-    }
+    testing::checkRows(rows, bodyText);
+}
+
+TEST_CASE("readers number items as the text has them") {
+    const testing::TextRow<std::size_t> rows[] = {
+        {"numbers that follow each other", u"123", 1},
+        {"a list that starts later", u"78", 1},
+        {"a number that is left out", u"134", 2},
+        {"numbers that start again", u"1212", 2},
+    };
+    const Value style = Value::boxed(ParagraphStyle{
+        .headIndent = 20, .tabStops = {{TextAlignment::Right, 15}, {TextAlignment::Natural, 20}}});
+    testing::checkRows(rows, [&](StringView numbers) {
+        RichText text;
+        for (const char16_t digit : numbers) {
+            const String item = u"\t" + String(1, digit) + u".\tx\n";
+            text.appendAttributedString(RichText(item, {{NSParagraphStyleAttributeName, style}}));
+        }
+        const Data document = text.RTF();
+        std::size_t lists = 0;
+        for (std::string_view rest = textOf(document); rest.find("\\levelstartat") != rest.npos;
+             ++lists) {
+            rest.remove_prefix(rest.find("\\levelstartat") + 1);
+        }
+        return lists;
+    });
 }
 
 TEST_CASE("lists from elsewhere become items with our markers and stops") {
     const std::string list =
-        "{\\fonttbl{\\f2\\fcharset2 Symbol;}}{\\*\\listtable{\\list{\\listlevel\\levelnfc23"
+        "{\\fonttbl{\\f2\\fcharset2 "
+        "Symbol;}}{\\*\\listtable{\\list\\listid7{\\listlevel\\levelnfc23"
         "{\\leveltext\\'01\\u-3913 ?;}{\\levelnumbers;}\\fi-360\\li720}{\\listlevel\\levelnfc4"
-        "{\\leveltext\\'02\\'01.;}{\\levelnumbers\\'01;}}\\listid7}}"
+        "{\\leveltext\\'02\\'01.;}{\\levelnumbers\\'01;}}}}"
         "{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}";
     const auto text = read("{\\rtf1" + list +
                            "{\\listtext\\pard\\plain\\f2 \\'b7\\tab}\\pard\\ls1\\ilvl0 a\\par"
@@ -167,7 +195,7 @@ TEST_CASE("lists from elsewhere become items with our markers and stops") {
     CHECK(styleAt(*text, 6).tabStops[0].location == 40);
 }
 
-TEST_CASE("fonts are looked up by their own name, by family, or kept by name") {
+TEST_CASE("fonts are looked up by their own name, by family, or kept by name; colours by number") {
     const testing::MadeUpFonts fonts;
     struct Row {
         std::string look;
@@ -192,6 +220,9 @@ TEST_CASE("fonts are looked up by their own name, by family, or kept by name") {
         CHECK(*text->attributesAtIndex(0).font() == row.font);
     }
     CHECK(read("{\\rtf1 a}")->attributesAtIndex(0).empty());
+    const auto red = read("{\\rtf1{\\colortbl\\red255;}a\\cf0 b}");
+    CHECK(red->attributesAtIndex(0).empty());
+    CHECK(red->attributesAtIndex(1).foregroundColor()->redComponent() == 1);
 }
 
 TEST_CASE("what is no document gives nothing, and hostile ones end soon") {

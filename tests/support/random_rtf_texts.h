@@ -27,6 +27,9 @@ public:
     }
 
 private:
+    // Of the text on the page: lines that end further right reach into the margin.
+    static constexpr double kPageWidth = 432;
+
     [[nodiscard]] std::size_t below(std::size_t limit) { return random_() % limit; }
     [[nodiscard]] bool chance(std::size_t in) { return below(in) == 0; }
     [[nodiscard]] double length() { return static_cast<double>(below(800)) / 20; }
@@ -97,6 +100,7 @@ private:
         if (chance(2)) style.headIndent = length();
         if (chance(2)) style.firstLineHeadIndent = length();
         if (chance(3)) style.tailIndent = -length();
+        if (chance(9)) style.tailIndent = kPageWidth + 1 + length();
         if (chance(3)) style.paragraphSpacing = length();
         if (chance(3)) style.paragraphSpacingBefore = length();
         if (chance(3)) style.lineSpacing = length();
