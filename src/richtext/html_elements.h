@@ -22,6 +22,7 @@ enum HtmlTrait : std::uint16_t {
     kHead = 1 << 8,     // it may stand in the head of a document
     kPage = 1 << 9,     // there without its tags, which only add attributes
     kKept = 1 << 10,    // a line feed behind its start tag shows nothing
+    kHeading = 1 << 11,
 };
 
 /// A row of the table of elements.
@@ -67,12 +68,12 @@ inline constexpr HtmlElementRow kHtmlElements[] = {
     {u"footer", kBlock},
     {u"form", kBlock},
     {u"frame", kVoid},
-    {u"h1", kBlock | kText},
-    {u"h2", kBlock | kText},
-    {u"h3", kBlock | kText},
-    {u"h4", kBlock | kText},
-    {u"h5", kBlock | kText},
-    {u"h6", kBlock | kText},
+    {u"h1", kBlock | kText | kHeading},
+    {u"h2", kBlock | kText | kHeading},
+    {u"h3", kBlock | kText | kHeading},
+    {u"h4", kBlock | kText | kHeading},
+    {u"h5", kBlock | kText | kHeading},
+    {u"h6", kBlock | kText | kHeading},
     {u"head", kPage},
     {u"header", kBlock},
     {u"hgroup", kBlock},

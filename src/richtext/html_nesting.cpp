@@ -30,6 +30,11 @@ std::size_t HtmlNesting::innermostBarrier() const {
                       htmlElement(u"table"), htmlElement(u"button"), htmlElement(u"object")});
 }
 
+std::size_t HtmlNesting::innermostHeading() const {
+    return innermost({htmlElement(u"h1"), htmlElement(u"h2"), htmlElement(u"h3"),
+                      htmlElement(u"h4"), htmlElement(u"h5"), htmlElement(u"h6")});
+}
+
 std::size_t HtmlNesting::leftByStartOf(std::uint32_t element) const {
     constexpr std::uint32_t kTr = htmlElement(u"tr");
     constexpr std::uint32_t kCaption = htmlElement(u"caption");
@@ -59,11 +64,15 @@ std::size_t HtmlNesting::leftByStartOf(std::uint32_t element) const {
         end({element}, innermostBarrier());
     }
     if (isHtml(element, kBlock)) end({htmlElement(u"p")}, innermostBarrier());
+    // No heading stands directly in another.
+    const bool isInHeading = left > 0 && isHtml(open_[left - 1], kHeading);
+    if (isInHeading && isHtml(element, kHeading)) --left;
     return left;
 }
 
 std::size_t HtmlNesting::leftByEndOf(std::uint32_t element) const {
-    const std::size_t place = innermost({element});
+    // The end of any heading ends the one that is open.
+    const std::size_t place = isHtml(element, kHeading) ? innermostHeading() : innermost({element});
     std::size_t within = 0;
     if (isHtml(element, kTablePart)) {
         within = innermost({htmlElement(u"table")});

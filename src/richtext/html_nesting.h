@@ -40,6 +40,7 @@ private:
     [[nodiscard]] std::size_t innermost(Numbers elements) const;
     [[nodiscard]] std::size_t innermostList() const;
     [[nodiscard]] std::size_t innermostBarrier() const;
+    [[nodiscard]] std::size_t innermostHeading() const;
 
     std::vector<std::vector<std::size_t>> places_{kHtmlElementCount};  // by element
     std::vector<std::uint32_t> open_;

@@ -126,6 +126,9 @@ TEST_CASE("elements and styles give text its look") {
          u"[a] superscript 1[b] superscript 2[c] superscript -1[d] italic baselineOffset 2"},
         {"formatting that crosses", u"<b>a<i>b</b>c</i>d", u"[a] bold[b] bold italic[c] italic[d]"},
         {"formatting left open goes on", u"<b>a</p><i>b", u"[a] bold[b] bold italic"},
+        {"at most three times where it says the same", u"<p><b><b><b><b></p></b></b></b>a", u"[a]"},
+        {"headings end each other", u"<style>* {margin:0}</style><h1>a<h2>b</h3>c",
+         u"[a/] 24 bold[b/] 18 bold[c]"},
         {"but not out of a cell", u"<table><tr><td><b>a<td>b", u"[a] bold[\tb]"},
         {"colours",
          u"<i style='color:RED'>a</i><i style='color:#00f8'>b</i>"
@@ -153,6 +156,14 @@ TEST_CASE("elements and styles give text its look") {
          u" @media print {b{color:white}} u>b{color:white}</style>"
          u"<b>a</b><p class='q a' style='margin:0'><b>b</b><b id=x>c</b><i class=a>d",
          u"[a] bold blue[/][bc] bold red[d] italic green"},
+        {"children, links and the root",
+         u"<style>u > b, q>i>u b{color:red} b:link, a:link b{color:lime} :root s{color:blue}"
+         u" b:hover, >b, b>{color:white}</style>"
+         u"<u><b>a</b><i><b>b</b></i></u><q><i><u>c<tt><b>d</b></tt></u></i></q><a "
+         u"href=#><b>e</b></a><s>f",
+         u"[a] bold red underlineStyle 1[b] bold italic underlineStyle 1[c] italic "
+         u"underlineStyle 1[d] Mono bold italic red underlineStyle 1[e] bold green link #"
+         u"[f] blue strikethroughStyle 1"},
         {"the stronger one wins",
          u"<style>b{color:red!important}b{color:lime}i{color:lime}</style>"
          u"<b style='color:blue'>a</b><i style='color:blue'>b",
