@@ -35,6 +35,11 @@ public:
     /// length.
     [[nodiscard]] Place placeOf(std::size_t index) const;
 
+    /// Asks `test` about each different set of attributes, in order of
+    /// appearance, until it says yes, and returns whether it did.
+    template <class Test>
+    [[nodiscard]] bool anySet(Test test) const;
+
     // ---- Building from the start to the end ----
 
     /// Adds `text` with `attributes` at the end.
@@ -85,6 +90,19 @@ private:
     AttributePalette palette_;
 };
 
+template <class Test>
+bool RichText::Store::anySet(Test test) const {
+    std::vector<bool> seen(palette_.size(), false);
+    for (const std::shared_ptr<Piece>& piece : pieces_) {
+        for (const PieceRun& run : piece->runs()) {
+            if (seen[run.id]) continue;
+            seen[run.id] = true;
+            if (test(palette_.at(run.id))) return true;
+        }
+    }
+    return false;
+}
+
 template <class Change>
 void RichText::Store::changeAttributes(Range range, Change change) {
     if (range.length == 0) return;
@@ -116,8 +134,14 @@ void RichText::changeAttributes(Range range, Change change) {
     changeableStore().changeAttributes(range, change);
 }
 
-/// The way to change all runs of a range in one go.
+/// The way to ask about all runs, and to change those of a range, in one go.
 struct AttributeSweep {
+    /// Whether `test` says yes for some set of attributes in `text`. It is asked
+    /// once for each different set, in order of appearance, until it does.
+    template <class Test>
+    [[nodiscard]] static bool any(const RichText& text, Test test) {
+        return text.store_->anySet(test);
+    }
     /// Gives each run of `range` what `change` makes of its attributes. `change`
     /// is asked once for each different set.
     template <class Change>

@@ -5,22 +5,39 @@
 #include "richtext/cleaned_runs.h"
 #include "richtext/compared_colors.h"
 #include "richtext/distinct_sets.h"
+#include "richtext/store.h"
 
 namespace QZCore {
 namespace {
 
-/// Whether some run of `text` has what `test` asks for.
-template <class Test>
-bool anyRun(const RichText& text, Test test) {
-    for (const TextRunView run : text.runs()) {
-        if (test(run.attributes)) return true;
-    }
-    return false;
+using Sets = std::vector<const TextAttributes*>;
+
+/// Each set that a run has, once, in order of appearance.
+Sets setsOf(const RichText& text) {
+    Sets sets;
+    (void)AttributeSweep::any(text, [&](const TextAttributes& set) {
+        sets.push_back(&set);
+        return false;
+    });
+    return sets;
 }
 
 bool sameFamilyAndSize(const Font* a, const Font* b) {
     if (a == nullptr || b == nullptr || a == b) return a == b;
     return a->familyName == b->familyName && a->pointSize == b->pointSize;
+}
+
+bool haveSameFontAndSize(const Sets& sets) {
+    return std::ranges::all_of(sets, [&](const TextAttributes* set) {
+        return sameFamilyAndSize(set->font(), sets.front()->font());
+    });
+}
+
+bool haveSameColor(const Sets& sets) {
+    ComparedColors colors;
+    return std::ranges::all_of(sets, [&](const TextAttributes* set) {
+        return colors.numberOf(comparedForeground(*set)) == 0;
+    });
 }
 
 bool hasWritingDirection(const TextAttributes& attributes) {
@@ -37,24 +54,20 @@ bool hasBlockOrList(const TextAttributes& attributes) {
 }  // namespace
 
 bool RichText::hasSameFontAndSize() const {
+    if (!containsAppleColorEmoji()) return haveSameFontAndSize(setsOf(*this));
     FlatRuns text = FlatTextAccess::flattenedRuns(*this, {0, kFlatTextLimit - 1});
     removeColorEmojiFonts(text);
-    const auto sets = distinctSets(text);
-    return std::ranges::all_of(sets, [&](const TextAttributes* set) {
-        return sameFamilyAndSize(set->font(), sets.front()->font());
-    });
+    return haveSameFontAndSize(distinctSets(text));
 }
 
 bool RichText::hasSameTextColor() const {
+    if (!containsLinks() && !containsAppleColorEmoji()) return haveSameColor(setsOf(*this));
     const FlatRuns text = cleanedRuns(*this);
-    ComparedColors colors;
-    return std::ranges::all_of(distinctSets(text), [&](const TextAttributes* set) {
-        return colors.numberOf(comparedForeground(*set)) == 0;
-    });
+    return haveSameColor(distinctSets(text));
 }
 
 bool RichText::containsLinks() const {
-    return anyRun(*this, [](const auto& attributes) { return attributes.link() != nullptr; });
+    return AttributeSweep::any(*this, [](const auto& set) { return set.link() != nullptr; });
 }
 
 Value RichText::urlLink() const {
@@ -62,10 +75,16 @@ Value RichText::urlLink() const {
     return link.range.length == length() ? link.value : Value();
 }
 
-bool RichText::containsAppleColorEmoji() const { return anyRun(*this, hasColorEmojiFont); }
+bool RichText::containsAppleColorEmoji() const {
+    return AttributeSweep::any(*this, hasColorEmojiFont);
+}
 
-bool RichText::containsTextBlocksOrLists() const { return anyRun(*this, hasBlockOrList); }
+bool RichText::containsTextBlocksOrLists() const {
+    return AttributeSweep::any(*this, hasBlockOrList);
+}
 
-bool RichText::containsWritingDirection() const { return anyRun(*this, hasWritingDirection); }
+bool RichText::containsWritingDirection() const {
+    return AttributeSweep::any(*this, hasWritingDirection);
+}
 
 }  // namespace QZCore
