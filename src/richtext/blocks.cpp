@@ -130,11 +130,12 @@ Blocks BlockClassifier::blocksOf(const RichText& text) {
                   text.attributesAtIndex(lines[i].location)};
         Block block = blockOf(text, line);
         lines[i] = line.range;
-        const bool endsList = inList && (isEmptyLine(block, lines[i]) || isBehindSpace);
+        const bool isEmpty = isEmptyLine(block, lines[i]);
+        const bool endsList = inList && (isEmpty || isBehindSpace);
         inList = block.kind == BlockKind::Item || (inList && !endsList);
         isBehindSpace = hasSpaceBehind(line.attributes);
-        if (endsList && lines[i].length == 0 && i + 1 < lines.size() && lines[i + 1].length == 0)
-            continue;
+        const bool isOneOfTwo = isEmpty && i + 1 < lines.size() && lines[i + 1].length == 0;
+        if (endsList && isOneOfTwo) continue;
         block.isInList = inList;
         block.first = i;
         block.end = i + 1;

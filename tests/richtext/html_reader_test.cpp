@@ -269,6 +269,8 @@ TEST_CASE("a text that was read is read again from what is written of it") {
         const RichText text = read(html);
         CHECK(read(htmlFromRichText(text)).string() == text.string());
     }
+    const RichText emptyItem = read(u"<ul><li>a<p>b</p><ol><li></ol></ul><p><br></p>c");
+    CHECK(read(htmlFromRichText(emptyItem)).string() == u"\t●\ta\nb\n\t1.\t\n\nc");
 }
 
 TEST_CASE("hostile HTML is read in linear time and without depth") {
