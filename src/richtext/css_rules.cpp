@@ -76,58 +76,57 @@ void CssRules::addRule(StringView selectors, StringView block) {
         const std::size_t end = findInCss(selectors, at, u",");
         Rule rule;
         rule.declarations = index;
-        if (readSelector(selectors.substr(at, end - at), rule)) {
-            auto& rules = rulesOf_[rule.compounds.back().keys.back()];
-            if (rules.size() < kMostRulesOfAKey) {
-                rules.push_back(static_cast<std::uint32_t>(rules_.size()));
-                rules_.push_back(std::move(rule));
-            }
-        }
+        if (readSelector(selectors.substr(at, end - at), rule)) keep(std::move(rule));
         at = end + 1;
     }
+}
+
+void CssRules::keep(Rule rule) {
+    std::vector<std::uint32_t>& rules = rulesOf_[rule.compounds.back().keys.back()];
+    if (rules.size() == kMostRulesOfAKey) return;
+    rules.push_back(static_cast<std::uint32_t>(rules_.size()));
+    rules_.push_back(std::move(rule));
 }
 
 bool CssRules::readSelector(StringView selector, Rule& rule) {
-    Compound next;
+    bool isChild = false;  // the next compound
     for (std::size_t at = 0; at < selector.size();) {
         const std::size_t end = findInCss(selector, at, u" \t\n\f>");
-        const StringView text = selector.substr(at, end - at);
-        if (!text.empty()) {
-            if (rule.compounds.size() == kMostCompounds || !readCompound(text, rule, next)) {
-                return false;
-            }
-            rule.compounds.push_back(std::exchange(next, {}));
+        const StringView compound = selector.substr(at, end - at);
+        if (!compound.empty()) {
+            if (!readCompound(compound, isChild, rule)) return false;
+            isChild = false;
         }
-        if (end < selector.size() && selector[end] == u'>') {
-            if (next.isChild || rule.compounds.empty()) return false;
-            next.isChild = true;
-        }
+        const bool isMark = end < selector.size() && selector[end] == u'>';
+        if (isMark && (isChild || rule.compounds.empty())) return false;
+        isChild = isChild || isMark;
         at = end + 1;
     }
-    return !rule.compounds.empty() && !next.isChild;
+    return !rule.compounds.empty() && !isChild;
 }
 
 /// The key that fewest elements have comes last.
-bool CssRules::readCompound(StringView text, Rule& rule, Compound& compound) {
+bool CssRules::readCompound(StringView compound, bool isChild, Rule& rule) {
     constexpr std::uint32_t kSpecificityOfClass = 1 << 8;
     constexpr std::uint32_t kSpecificityOfIdentifier = 1 << 16;
-    while (!text.empty()) {
-        const bool isType = kMarks.find(text.front()) == kMarks.npos;
+    CssKeys keys;
+    while (!compound.empty()) {
+        const bool isType = kMarks.find(compound.front()) == kMarks.npos;
         const std::size_t end =
-            std::min(text.find_first_of(u".#:+~[", isType ? 0 : 1), text.size());
-        const StringView name = text.substr(0, end);
-        if (name.size() < (isType ? 1U : 2U) || compound.keys.size() == kMostCompounds) {
-            return false;
-        }
-        compound.keys.push_back(names_.numberOf(isType ? inAsciiLowerCase(name) : String(name)));
+            std::min(compound.find_first_of(u".#:+~[", isType ? 0 : 1), compound.size());
+        const StringView name = compound.substr(0, end);
+        if (name.size() < (isType ? 1U : 2U) || keys.size() == kMostCompounds) return false;
+        keys.push_back(names_.numberOf(isType ? inAsciiLowerCase(name) : String(name)));
         if (!isType) {
             rule.specificity +=
                 name.front() == u'#' ? kSpecificityOfIdentifier : kSpecificityOfClass;
         } else if (name != kAnyType) {
             ++rule.specificity;
         }
-        text.remove_prefix(end);
+        compound.remove_prefix(end);
     }
+    if (rule.compounds.size() == kMostCompounds) return false;
+    rule.compounds.push_back({std::move(keys), isChild});
     return true;
 }
 

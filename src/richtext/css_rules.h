@@ -62,7 +62,8 @@ private:
 
     void addRule(StringView selectors, StringView block);
     [[nodiscard]] bool readSelector(StringView selector, Rule& rule);
-    [[nodiscard]] bool readCompound(StringView text, Rule& rule, Compound& compound);
+    [[nodiscard]] bool readCompound(StringView compound, bool isChild, Rule& rule);
+    void keep(Rule rule);
     [[nodiscard]] static bool selects(const Rule& rule, const CssPlace& element);
 
     CssNames& names_;
