@@ -290,6 +290,10 @@ TEST_CASE("hostile HTML is read in linear time and without depth") {
         {"ends of others", repeated(u"<b>", kMany) + repeated(u"</i>", kMany) + u"x", 1},
         {"crossing", repeated(u"<b>", kMany) + repeated(u"<i>", kMany) + repeated(u"</b>", kMany),
          0},
+        {"crossing with a long attribute",
+         repeated(u"<i>", kMany) + u"<b class='" + String(kMany, u'x') + u"'>" +
+             repeated(u"</i>", kMany) + u"x",
+         1},
         {"one attribute", u"<a href='" + String(10 * kMany, u'x') + u"'>x", 1},
         {"many attributes", attributes + u">x", 1},
         {"references", repeated(u"&amp;", kMany), kMany},
