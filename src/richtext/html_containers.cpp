@@ -17,7 +17,13 @@ void HtmlContainers::startList(const TextListItem& item) {
     // The direction of its text decides on which side the markers stand.
     page_ += u"<" + nameOfList(item) + u" dir=\"auto\"";
     if (item.isNumbered() && item.number != 1) page_ += numberAttribute(u"start", item.number);
-    if (item.bullet == kOpenBullet) page_ += u" style=\"list-style-type:circle;\"";
+    // A page says the bullet of all lists; else it would depend on their depth.
+    const bool isUsual = lists_.empty() || form_ == HtmlForm::Page || item.isNumbered();
+    if (item.bullet == kOpenBullet) {
+        page_ += u" style=\"list-style-type:circle;\"";
+    } else if (!isUsual) {
+        page_ += u" style=\"list-style-type:disc;\"";
+    }
     page_ += u">\n<li>";
     lists_.push_back(item);
 }

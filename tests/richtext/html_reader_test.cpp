@@ -269,8 +269,17 @@ TEST_CASE("a text that was read is read again from what is written of it") {
         const RichText text = read(html);
         CHECK(read(htmlFromRichText(text)).string() == text.string());
     }
-    const RichText emptyItem = read(u"<ul><li>a<p>b</p><ol><li></ol></ul><p><br></p>c");
-    CHECK(read(htmlFromRichText(emptyItem)).string() == u"\t●\ta\nb\n\t1.\t\n\nc");
+    const testing::TextRow<StringView> rows[] = {
+        {"an empty item behind space", u"<ul><li>a<p>b</p><ol><li></ol></ul><p><br></p>c",
+         u"\t●\ta\nb\n\t1.\t\n\nc"},
+        {"a bullet that its depth does not have",
+         u"<ul><li>a<ul style='list-style-type:disc'><li>b", u"\t●\ta\n\t●\tb"},
+    };
+    for (const HtmlForm form : {HtmlForm::Page, HtmlForm::Fragment}) {
+        testing::checkRows(rows, [&](StringView html) {
+            return read(htmlFromRichText(read(html), {.form = form})).string();
+        });
+    }
 }
 
 TEST_CASE("hostile HTML is read in linear time and without depth") {
