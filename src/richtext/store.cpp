@@ -7,7 +7,7 @@ namespace QZCore {
 namespace {
 
 // Pieces shorter than this are joined with a neighbour where the sum leaves
-// room for edits.
+// room for edits, and texts as short are put in run by run.
 constexpr std::size_t kSmall = 512;
 
 }  // namespace
@@ -64,12 +64,12 @@ void RichText::Store::append(StringView text, std::span<const FlatRun> runs) {
     }
 }
 
-void RichText::Store::append(const Store& other, Range range) {
+template <class Use>
+void RichText::Store::eachRun(Range range, Use use) const {
     if (range.length == 0) return;
-    NumberMap numbers;
-    Place place = other.placeOf(range.location);
+    Place place = placeOf(range.location);
     for (std::size_t at = range.location; at < range.end();) {
-        const Piece& piece = other.piece(place.piece);
+        const Piece& piece = this->piece(place.piece);
         const std::size_t offset = at - place.pieceStart;
         if (offset == piece.length()) {
             place.pieceStart += piece.length();
@@ -78,12 +78,18 @@ void RichText::Store::append(const Store& other, Range range) {
         }
         const std::size_t run = piece.runAt(offset);
         const std::size_t end = std::min(place.pieceStart + piece.runEnd(run), range.end());
-        const std::uint32_t id = numbers(piece.runs()[run].id, [&](std::uint32_t old) {
-            return palette_.idOf(other.palette_.at(old));
-        });
-        appendNumbered(StringView(piece.text()).substr(offset, end - at), id);
+        use(StringView(piece.text()).substr(offset, end - at), piece.runs()[run].id);
         at = end;
     }
+}
+
+void RichText::Store::append(const Store& other, Range range) {
+    NumberMap numbers;
+    other.eachRun(range, [&](StringView text, std::uint32_t theirs) {
+        const std::uint32_t id = numbers(
+            theirs, [&](std::uint32_t old) { return palette_.idOf(other.palette_.at(old)); });
+        appendNumbered(text, id);
+    });
 }
 
 void RichText::Store::replace(Range range, StringView text, const TextAttributes& attributes) {
@@ -95,7 +101,14 @@ void RichText::Store::replace(Range range, StringView text, const TextAttributes
 void RichText::Store::replace(Range range, const Store& other, Range otherRange) {
     collectAttributes();
     erase(range);
-    if (otherRange.length == 0) return;
+    if (otherRange.length <= kSmall) {
+        std::size_t at = range.location;
+        other.eachRun(otherRange, [&](StringView text, std::uint32_t id) {
+            insert(at, text, palette_.idOf(other.palette_.at(id)));
+            at += text.size();
+        });
+        return;
+    }
     Store addition;
     addition.palette_ = std::move(palette_);
     addition.append(other, otherRange);

@@ -73,6 +73,8 @@ private:
     // Lengths are summed up for so many pieces at a time.
     static constexpr std::size_t kGroup = 64;
 
+    template <class Use>
+    void eachRun(Range range, Use use) const;
     Piece& changeablePiece(std::size_t index);
     void erase(Range range);
     void insert(std::size_t index, StringView text, std::uint32_t id);
