@@ -84,9 +84,12 @@ set(QZCORE_PUBLIC_HEADERS
   markdown/writing.h
   model.h
   model/archive.h
+  model/archived_class.h
+  model/attributed_object.h
   model/objects.h
   model/pair.h
   model/property_selector.h
+  model/settings.h
   model/stopwatch.h
   model/tree_node.h
   model/undo_action.h
@@ -101,6 +104,7 @@ set(QZCORE_PUBLIC_HEADERS
   platform/url_loading.h
   platform/user_locales.h
   richtext.h
+  richtext/archived_rich_text.h
   richtext/blocks.h
   richtext/editing_commands.h
   richtext/editor.h

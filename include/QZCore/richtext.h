@@ -2,6 +2,7 @@
 // the font manager that turns one into the other, RTF, and the editor.
 #pragma once
 
+#include "QZCore/richtext/archived_rich_text.h"
 #include "QZCore/richtext/blocks.h"
 #include "QZCore/richtext/editing_commands.h"
 #include "QZCore/richtext/editor.h"

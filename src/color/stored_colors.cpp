@@ -1,5 +1,7 @@
 #include "QZCore/color/stored_colors.h"
 
+#include "color/legacy_color.h"
+
 namespace QZCore {
 
 std::optional<Color> colorForKey(const Dictionary& dictionary, StringView key,
@@ -16,8 +18,8 @@ std::optional<Color> colorForKey(const Preferences& preferences, StringView key,
                                  const std::optional<Color>& withDefault) {
     const Value stored = preferences.objectForKey(key);
     if (stored.isAbsent()) return withDefault;
-    const String* string = stored.string();
-    return string == nullptr ? std::nullopt : Color::colorForString(*string);
+    if (const String* string = stored.string()) return Color::colorForString(*string);
+    return stored.data() == nullptr ? std::nullopt : legacyColor(*stored.data());
 }
 
 void setColor(Preferences& preferences, const std::optional<Color>& color, StringView forKey) {

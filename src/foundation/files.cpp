@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "foundation/file_links.h"
 #include "foundation/open_file.h"
 #include "foundation/saving_name.h"
 
@@ -15,19 +16,6 @@ namespace QZCore {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The file that `path` names in the end, when it is a symbolic link; it need
-/// not exist. Nothing when the links lead in a circle.
-std::optional<fs::path> withoutLinks(fs::path path) {
-    constexpr int kMostLinks = 40;
-    for (int i = 0; i < kMostLinks; ++i) {
-        std::error_code error;
-        const fs::path target = fs::read_symlink(path, error);
-        if (error) return path;
-        path = path.parent_path() / target;
-    }
-    return std::nullopt;
-}
 
 /// What the new file must look like to stand in for the old one.
 struct Standing {
@@ -68,7 +56,8 @@ bool flushFolder(const fs::path& folder) {
 std::optional<Data> readFile(const std::string& path, std::size_t limit) {
     // Opening a pipe would wait for a writer, and a device may have no end.
     const OpenFile file(path, O_RDONLY | O_NONBLOCK);
-    if (!file.isPlain()) return std::nullopt;
+    const auto size = file.sizeIfPlain();
+    if (!size || *size > limit) return std::nullopt;
     Data bytes;
     std::array<std::uint8_t, 65536> buffer;
     while (const auto count = file.read(buffer)) {

@@ -27,9 +27,10 @@ OpenFile::~OpenFile() {
     if (isOpen()) ::close(descriptor_);
 }
 
-bool OpenFile::isPlain() const {
+std::optional<std::size_t> OpenFile::sizeIfPlain() const {
     struct ::stat standing = {};
-    return ::fstat(descriptor_, &standing) == 0 && S_ISREG(standing.st_mode);
+    if (::fstat(descriptor_, &standing) != 0 || !S_ISREG(standing.st_mode)) return std::nullopt;
+    return static_cast<std::size_t>(standing.st_size);
 }
 
 std::optional<std::size_t> OpenFile::read(std::span<std::uint8_t> buffer) const {

@@ -23,8 +23,9 @@ public:
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int descriptor() const { return descriptor_; }
 
-    /// Whether it is a plain file: no folder, pipe or device.
-    [[nodiscard]] bool isPlain() const;
+    /// How long the file is, as far as the system knows; nothing for what is no
+    /// plain file: a folder, a pipe, a device.
+    [[nodiscard]] std::optional<std::size_t> sizeIfPlain() const;
 
     /// The next bytes into `buffer`: how many, 0 at the end, nothing when they
     /// cannot be read.

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "QZCore/foundation/preferences.h"
+#include "foundation/settings_files.h"
 
 namespace QZCore {
 
@@ -18,7 +19,7 @@ struct Preferences::State {
 
     std::mutex saving;
     std::string path;
-    bool fileIsUnreadable = false;
+    SettingsFiles files;
 };
 
 }  // namespace QZCore

@@ -115,6 +115,8 @@ bool Object::isEqualTo(const Object& other) const { return this == &other; }
 std::size_t Object::hash() const { return reinterpret_cast<std::uintptr_t>(this); }
 String Object::description() const { return u"<object>"; }
 std::shared_ptr<const Object> Object::mutableCopy() const { return nullptr; }
+const Dictionary* Object::heldEntries() const { return nullptr; }
+String Object::heading() const { return {}; }
 
 Value::Value(StringView value) : storage_(std::make_shared<const String>(value)) {}
 Value::Value(String value) : storage_(std::make_shared<const String>(std::move(value))) {}

@@ -111,10 +111,17 @@ private:
                 return wasCompared(a, b, a.dictionary(), b.dictionary()) ||
                        compareLater(*a.dictionary(), *b.dictionary());
             case ValueKind::Object:
-                return a.object() == b.object() || a.object()->isEqualTo(*b.object());
+                return a.object() == b.object() || equalObjectsOrPending(a, b);
             default:
                 return true;
         }
+    }
+
+    bool equalObjectsOrPending(const Value& a, const Value& b) {
+        const Dictionary* inA = a.object()->heldEntries();
+        const Dictionary* inB = b.object()->heldEntries();
+        if (inA == nullptr || inB == nullptr) return a.object()->isEqualTo(*b.object());
+        return wasCompared(a, b, inA, inB) || compareLater(*inA, *inB);
     }
 
     /// Whether the comparison has met this pair of containers before. Containers

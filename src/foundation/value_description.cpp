@@ -59,12 +59,18 @@ private:
                 if (open(value.dictionary(), u"{", u"}")) writeLater(*value.dictionary());
                 break;
             case ValueKind::Object:
-                result_ += value.object()->description();
+                write(*value.object());
                 break;
             default:
                 result_ += value.stringValue();
                 break;
         }
+    }
+
+    void write(const Object& object) {
+        const Dictionary* held = object.heldEntries();
+        result_ += held == nullptr ? object.description() : object.heading();
+        if (held != nullptr && open(held, u"{", u"}")) writeLater(*held);
     }
 
     /// Whether `container` begins here; it has begun already when it is inside

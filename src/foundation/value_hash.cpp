@@ -49,6 +49,11 @@ std::size_t hashOf(const Dictionary& entries, std::size_t level) {
     return hashCombine(hashCombine(7, entries.count()), sum);
 }
 
+std::size_t hashOf(const Object& object, std::size_t level) {
+    const Dictionary* held = object.heldEntries();
+    return hashCombine(8, held == nullptr ? object.hash() : hashOf(*held, level));
+}
+
 std::size_t hashAtLevel(const Value& value, std::size_t level) {
     switch (value.kind()) {
         case ValueKind::Absent:
@@ -73,7 +78,7 @@ std::size_t hashAtLevel(const Value& value, std::size_t level) {
         case ValueKind::Dictionary:
             return hashOf(*value.dictionary(), level);
         case ValueKind::Object:
-            return hashCombine(8, value.object()->hash());
+            return hashOf(*value.object(), level);
     }
     return 0;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "QZCore/model/archive.h"
+#include "model/archive_reader.h"
 #include "model/archive_writer.h"
 
 namespace QZCore {
@@ -24,21 +25,37 @@ void ArchiveEncoder::encodeObject(Value object) {  // NOLINT(performance-*)
     writer_.addContent(object);
 }
 
+void ArchiveEncoder::encodeContent(Value object, StringView forKey) {  // NOLINT(performance-*)
+    if (allowsKeyedCoding()) return writer_.addContent(object, forKey);
+    writer_.addContent(object);
+}
+
 // ---- Decoding ----
 
+bool ArchiveDecoder::allowsKeyedCoding() const { return reader_.coding() == ArchiveCoding::Keyed; }
+
 bool ArchiveDecoder::containsValueForKey(StringView key) const {
-    return std::ranges::find(keys_, key) != keys_.end();
+    return std::ranges::find(form_.keys, key) != form_.keys.end();
 }
 
 std::optional<Value> ArchiveDecoder::decodeObjectForKey(StringView key) const {
-    const auto found = std::ranges::find(keys_, key);
-    if (found == keys_.end()) return Value();
-    return made_[contents_[static_cast<std::size_t>(found - keys_.begin())]];
+    return reader_.content(number_, form_.positionOf(key));
+}
+
+std::optional<Value> ArchiveDecoder::decodeObjectForKey(StringView key,
+                                                        const ArchiveClasses& ofClasses) const {
+    const std::size_t position = form_.positionOf(key);
+    if (!reader_.isContentWithin(number_, position, ofClasses)) return std::nullopt;
+    return reader_.content(number_, position);
 }
 
 std::optional<Value> ArchiveDecoder::decodeObject() {
-    if (allowsKeyedCoding() || next_ == contents_.size()) return Value();
-    return made_[contents_[next_++]];
+    if (allowsKeyedCoding()) return Value();
+    return reader_.content(number_, next_++);
+}
+
+std::optional<Value> ArchiveDecoder::decodeContent(StringView forKey) {
+    return allowsKeyedCoding() ? decodeObjectForKey(forKey) : decodeObject();
 }
 
 }  // namespace QZCore

@@ -1,10 +1,6 @@
 #include "model/archive_format.h"
 
-#include <algorithm>
-
 namespace QZCore::archive_format {
-namespace {
-
 std::optional<PlainClass> plainClassOf(ValueKind kind) {
     switch (kind) {
         case ValueKind::Boolean:
@@ -29,13 +25,6 @@ std::optional<PlainClass> plainClassOf(ValueKind kind) {
         default:
             return std::nullopt;
     }
-}
-
-}  // namespace
-
-bool isAllowed(ValueKind kind, const ArchiveClasses& classes) {
-    const auto plain = plainClassOf(kind);
-    return plain && std::ranges::find(classes.plain, *plain) != classes.plain.end();
 }
 
 }  // namespace QZCore::archive_format

@@ -62,8 +62,8 @@ inline constexpr std::array kPlainForms{
     return nullptr;
 }
 
-/// Whether values of a kind are allowed; never those of objects.
-[[nodiscard]] bool isAllowed(ValueKind kind, const ArchiveClasses& classes);
+/// The class of values of a kind; nothing for absent ones and for objects.
+[[nodiscard]] std::optional<PlainClass> plainClassOf(ValueKind kind);
 
 static_assert([] {
     for (std::size_t i = 0; i < kPlainForms.size(); ++i) {

@@ -5,9 +5,9 @@
 
 namespace QZCore {
 
-void ArchiveGraph::addObject(bool isOfClass) {
+void ArchiveGraph::addObject(Walk walk) {
     starts_.push_back(references_.size());
-    isOfClass_.push_back(isOfClass);
+    walks_.push_back(walk);
 }
 
 ArchiveGraph::Order ArchiveGraph::makingOrder(Number root) const {
@@ -16,7 +16,7 @@ ArchiveGraph::Order ArchiveGraph::makingOrder(Number root) const {
         Number object;
         std::size_t next;  // of its references
     };
-    std::vector<State> states(isOfClass_.size(), State::New);
+    std::vector<State> states(walks_.size(), State::New);
     states[0] = State::Done;
     std::vector<Number> order;
     std::vector<Step> path;
@@ -47,13 +47,14 @@ ArchiveGraph::Order ArchiveGraph::makingOrder(Number root) const {
 bool ArchiveGraph::unfoldsTooMuch(std::span<const Number> order) const {
     constexpr std::uint64_t kAlwaysAllowed = 65'536;
     constexpr std::uint64_t kAllowedForEach = 16;
-    const auto objects =
-        std::ranges::count_if(order, [this](Number number) -> bool { return isOfClass_[number]; });
+    const auto objects = std::ranges::count_if(
+        order, [this](Number number) -> bool { return walks_[number] == Walk::Onward; });
     const std::uint64_t limit =
         kAlwaysAllowed + kAllowedForEach * static_cast<std::uint64_t>(objects);
-    std::vector<std::uint64_t> unfolded(isOfClass_.size());
+    std::vector<std::uint64_t> unfolded(walks_.size());
     for (const Number number : order) {
-        std::uint64_t sum = isOfClass_[number] ? 1 : 0;
+        if (walks_[number] == Walk::Ended) continue;
+        std::uint64_t sum = walks_[number] == Walk::Onward ? 1 : 0;
         for (const Number reference : referencesOf(number)) {
             sum += unfolded[reference];
             if (sum > limit) return true;

@@ -18,9 +18,15 @@ public:
     /// Adds a reference of the object that will be added next.
     void addReference(Number to) { references_.push_back(to); }
 
-    /// Adds the object with the next number. Objects of classes unfold, plain
-    /// values do not.
-    void addObject(bool isOfClass);
+    /// What a walk through objects does at one.
+    enum class Walk : std::uint8_t {
+        Through,  // goes through it to what it refers to, as at a plain value
+        Onward,   // the same, and it counts as one more object
+        Ended
+    };
+
+    /// Adds the object with the next number.
+    void addObject(Walk walk);
 
     /// The references of an object, in order.
     [[nodiscard]] std::span<const Number> referencesOf(Number object) const {
@@ -28,7 +34,7 @@ public:
     }
 
     /// The number of objects.
-    [[nodiscard]] std::size_t count() const { return isOfClass_.size() - 1; }
+    [[nodiscard]] std::size_t count() const { return walks_.size() - 1; }
 
     /// An order, or the reason why there is none.
     struct Order {
@@ -46,7 +52,7 @@ private:
 
     std::vector<Number> references_;
     std::vector<std::size_t> starts_{0, 0};
-    std::vector<bool> isOfClass_{false};
+    std::vector<Walk> walks_{Walk::Through};
 };
 
 }  // namespace QZCore

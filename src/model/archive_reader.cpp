@@ -50,7 +50,7 @@ std::optional<Value> madeText(const Array& stored) {
 PropertyListResult ArchiveReader::read(DataView bytes) {
     PropertyListResult list = readPropertyList(bytes);
     if (!list.error.empty()) return list;
-    auto table = ArchiveTable::read(std::move(list.value));
+    auto table = ArchiveTable::read(std::move(list.value), rows_);
     if (!table) return {Value(), u"not an archive"};
     table_ = *std::move(table);
     const ArchiveGraph::Order order = table_.graph.makingOrder(table_.root);
@@ -59,47 +59,88 @@ PropertyListResult ArchiveReader::read(DataView bytes) {
     made_.resize(table_.objects->size() + 1);
     sizes_.resize(made_.size());
     made_[0] = Value();
+    use_.emplace(table_.graph, rows_.count());
     for (const Number number : order.objects) {
         sizes_[number] = 1;
         for (const Number content : table_.graph.referencesOf(number)) {
             sizes_[number] = std::min(sizes_[number] + sizes_[content], kLargestSize);
         }
-        made_[number] = make(number);
+        made_[number] = made(number);
+    }
+    if (made_[table_.root] && !use_->isWithin(table_.root, rows_.allowed())) {
+        return {Value(), u"a class that is not allowed there"};
     }
     if (!made_[table_.root]) return {Value(), reason_};
     return {*std::move(made_[table_.root]), {}};
 }
 
+std::optional<Value> ArchiveReader::content(Number number, std::size_t position) const {
+    const auto contents = table_.graph.referencesOf(number);
+    if (position >= contents.size()) return Value();
+    if (!use_->isWithin(contents[position], rows_.allowedInside(classOf(number)))) {
+        return std::nullopt;
+    }
+    return made_[contents[position]];
+}
+
+bool ArchiveReader::isContentWithin(Number number, std::size_t position,
+                                    const ArchiveClasses& classes) const {
+    const auto contents = table_.graph.referencesOf(number);
+    return position >= contents.size() || use_->isWithin(contents[position], rowsOf(classes));
+}
+
+/// The classes of the archive that are, or are derived from, those of a list.
+ClassSet ArchiveReader::rowsOf(const ArchiveClasses& classes) const {
+    ClassSet set;
+    for (const PlainClass plain : classes.plain) set.add(ArchiveRows::numberOf(plain));
+    for (std::size_t i = ArchiveRows::kPlainClasses; i < rows_.count(); ++i) {
+        const Object* example = examples_[i].get();
+        const auto isOfClass = [&](const ArchivedClass& row) {
+            return *row.type == *rows_[i].type ||
+                   (example != nullptr && row.isKind != nullptr && row.isKind(*example));
+        };
+        if (std::ranges::any_of(classes.objects, isOfClass)) set.add(i);
+    }
+    return set;
+}
+
 // ---- Making -----------------------------------------------------------------
 
-std::optional<Value> ArchiveReader::make(Number number) {
+/// The number of an object's class, or `kNone` when it is not among the rows.
+std::size_t ArchiveReader::classOf(Number number) const {
     const Value& stored = table_.storedObject(number);
+    if (stored.array() != nullptr) return table_.formOf(*stored.array()).classNumber;
+    return ArchiveRows::numberOf(*plainClassOf(stored.kind()));
+}
+
+/// Makes an object and notes its class.
+std::optional<Value> ArchiveReader::made(Number number) {
+    const Value& stored = table_.storedObject(number);
+    const std::size_t classNumber = classOf(number);
     if (stored.array() == nullptr) {
-        if (!isAllowed(stored.kind(), classes_)) return unreadable(u"a kind that is not allowed");
+        use_->note(number, classNumber, true);
         return stored;
     }
     const ArchiveForm& form = table_.formOf(*stored.array());
-    if (form.plain == nullptr) return makeOfClass(number, form);
-    if (std::ranges::find(classes_.plain, form.plain->kind) == classes_.plain.end()) {
+    if (classNumber == ArchiveRows::kNone) {
         return unreadable(u"a class that is not allowed: ", form.name);
     }
-    auto made = makePlain(number, form.plain->form);
-    return made ? made : unreadable(u"wrong contents of a ", form.name);
+    use_->note(number, classNumber, form.plain != nullptr);
+    if (form.plain == nullptr) return makeOfClass(number, form);
+    auto value = makePlain(number, form.plain->form);
+    return value ? value : unreadable(u"wrong contents of a ", form.name);
 }
 
 std::optional<Value> ArchiveReader::makeOfClass(Number number, const ArchiveForm& form) {
-    const auto row = std::ranges::find(classes_.objects, form.name, &ArchivedClass::name);
-    if (row == classes_.objects.end()) {
-        return unreadable(u"a class that is not allowed: ", form.name);
-    }
     const auto contents = table_.graph.referencesOf(number);
     const bool isKeyed = table_.coding == ArchiveCoding::Keyed;
     if (form.keys.size() != (isKeyed ? contents.size() : 0)) {
         return unreadable(u"contents without keys in a ", form.name);
     }
-    ArchiveDecoder decoder(table_.coding, form.keys, contents, made_);
-    auto object = row->decode(decoder);
+    ArchiveDecoder decoder(*this, form, number);
+    auto object = rows_[form.classNumber].decode(decoder);
     if (object == nullptr) return unreadable(u"wrong contents of a ", form.name);
+    examples_[form.classNumber] = object;
     return Value(std::move(object));
 }
 

@@ -19,6 +19,8 @@ std::optional<ArchiveGraph::Number> numberUpTo(std::size_t most, const Value& va
 /// Fills a table. Every step answers whether its part is in order.
 class TableReader {
 public:
+    explicit TableReader(const ArchiveRows& rows) : rows_(rows) {}
+
     bool read(Value archive) {
         table_.archive = std::move(archive);
         const Dictionary* parts = table_.archive.dictionary();
@@ -55,6 +57,8 @@ private:
         form.name = std::move(form.keys.front());
         form.keys.erase(form.keys.begin());
         form.plain = rowNamed(form.name);
+        form.classNumber = form.plain == nullptr ? rows_.numberOf(form.name)
+                                                 : ArchiveRows::numberOf(form.plain->kind);
         return true;
     }
 
@@ -70,7 +74,7 @@ private:
     bool readObject(const Value& object) {
         const Array* parts = object.array();
         if (parts == nullptr) {
-            table_.graph.addObject(false);
+            table_.graph.addObject(ArchiveGraph::Walk::Through);
             return object.isNumber() || object.string() != nullptr || object.data() != nullptr;
         }
         if (parts->empty() || table_.forms.empty()) return false;
@@ -80,8 +84,15 @@ private:
         const bool hasReferences =
             plain == nullptr || (plain->form != PlainForm::Date && plain->form != PlainForm::Text);
         if (hasReferences && !readReferences(*parts)) return false;
-        table_.graph.addObject(plain == nullptr);
+        table_.graph.addObject(walkOf(table_.forms[*form]));
         return true;
+    }
+
+    [[nodiscard]] ArchiveGraph::Walk walkOf(const ArchiveForm& form) const {
+        if (form.plain != nullptr) return ArchiveGraph::Walk::Through;
+        const bool isWalked =
+            form.classNumber == ArchiveRows::kNone || rows_[form.classNumber].isWalked;
+        return isWalked ? ArchiveGraph::Walk::Onward : ArchiveGraph::Walk::Ended;
     }
 
     bool readReferences(const Array& parts) {
@@ -99,13 +110,14 @@ private:
         return number.has_value();
     }
 
+    const ArchiveRows& rows_;
     ArchiveTable table_;
 };
 
 }  // namespace
 
-std::optional<ArchiveTable> ArchiveTable::read(Value archive) {
-    TableReader reader;
+std::optional<ArchiveTable> ArchiveTable::read(Value archive, const ArchiveRows& rows) {
+    TableReader reader(rows);
     if (!reader.read(std::move(archive))) return std::nullopt;
     return reader.take();
 }

@@ -1,12 +1,14 @@
 // The objects of an archive as they are stored.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
 #include "QZCore/model/archive.h"
 #include "model/archive_format.h"
 #include "model/archive_graph.h"
+#include "model/archive_rows.h"
 
 namespace QZCore {
 
@@ -16,8 +18,17 @@ struct ArchiveForm {
     String name;
     /// The keys of the contents; none in a sequential archive.
     std::vector<String> keys;
+    /// The class by its number, or `ArchiveRows::kNone`.
+    std::size_t classNumber = ArchiveRows::kNone;
     /// The form of plain values; null for objects of classes.
     const archive_format::PlainFormRow* plain = nullptr;
+
+    /// The place of the content under `key`; beyond the contents when there is
+    /// none.
+    [[nodiscard]] std::size_t positionOf(StringView key) const {
+        const auto found = std::find(keys.begin(), keys.end(), key);
+        return static_cast<std::size_t>(found - keys.begin());
+    }
 };
 
 /// The parts of an archive, checked as far as every reference leads to an
@@ -35,7 +46,7 @@ struct ArchiveTable {
     ArchiveGraph graph;
 
     /// The table of a property list, or nothing.
-    [[nodiscard]] static std::optional<ArchiveTable> read(Value archive);
+    [[nodiscard]] static std::optional<ArchiveTable> read(Value archive, const ArchiveRows& rows);
 
     /// The object with the number, which is not 0.
     [[nodiscard]] const Value& storedObject(Number number) const { return (*objects)[number - 1]; }

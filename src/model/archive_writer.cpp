@@ -84,10 +84,16 @@ PropertyListData ArchiveWriter::write(const Value& root) {
     Array objects;
     for (std::size_t i = 0; i < values_.size() && error_.empty(); ++i) {
         const Value value = values_[i];
-        objects.push_back(storedForm(value));
-        graph_.addObject(value.kind() == ValueKind::Object);
+        const std::size_t classNumber = classOf(value);
+        if (classNumber == ArchiveRows::kNone) {
+            fail(u"an object of a class that is not allowed");
+            break;
+        }
+        objects.push_back(storedForm(value, classNumber));
+        graph_.addObject(walkOf(classNumber));
+        classNumbers_.push_back(classNumber);
     }
-    if (error_.empty()) error_ = graph_.makingOrder(rootNumber).fault;
+    if (error_.empty()) checkGraph(rootNumber);
     if (!error_.empty()) return {std::nullopt, error_};
 
     Dictionary archive;
@@ -125,12 +131,11 @@ void ArchiveWriter::addReference(const Value& value) {
 
 // ---- Objects ----
 
-Value ArchiveWriter::storedForm(const Value& value) {
+Value ArchiveWriter::storedForm(const Value& value, std::size_t classNumber) {
     contents_.assign(1, Value());  // the place of the form
     if (value.kind() == ValueKind::Object) {
-        addClassContents(*value.object());
+        addClassContents(*value.object(), classNumber);
     } else {
-        if (!isAllowed(value.kind(), classes_)) fail(u"a value of a kind that is not allowed");
         const auto form = plainFormOf(value);
         if (!form) return value;
         addPlainContents(value, *form);
@@ -168,15 +173,10 @@ void ArchiveWriter::addPlainContents(const Value& value, PlainForm form) {
     }
 }
 
-void ArchiveWriter::addClassContents(const Object& object) {
-    const auto isOfType = [&object](const ArchivedClass& row) {
-        return *row.type == typeid(object);
-    };
-    const auto row = std::ranges::find_if(classes_.objects, isOfType);
-    if (row == classes_.objects.end()) return fail(u"an object of a class that is not allowed");
-    formNames_ = row->name;
+void ArchiveWriter::addClassContents(const Object& object, std::size_t classNumber) {
+    formNames_ = rows_[classNumber].name;
     ArchiveEncoder encoder(*this);
-    row->encode(object, encoder);
+    rows_[classNumber].encode(object, encoder);
 }
 
 void ArchiveWriter::addContent(const Value& object) { addReference(object); }
@@ -194,6 +194,37 @@ std::int64_t ArchiveWriter::formNumber() {
     const auto [at, isNew] = formNumbers_.try_emplace(formNames_, next);
     if (isNew) forms_.push_back(namesOfForm(formNames_));
     return at->second;
+}
+
+// ---- Classes ----
+
+std::size_t ArchiveWriter::classOf(const Value& value) const {
+    const auto plain = plainClassOf(value.kind());
+    return plain ? ArchiveRows::numberOf(*plain) : rows_.numberOf(*value.object());
+}
+
+ArchiveGraph::Walk ArchiveWriter::walkOf(std::size_t classNumber) const {
+    if (classNumber < ArchiveRows::kPlainClasses) return ArchiveGraph::Walk::Through;
+    return rows_[classNumber].isWalked ? ArchiveGraph::Walk::Onward : ArchiveGraph::Walk::Ended;
+}
+
+/// Whether it can be read again: there is an order to make everything in, and
+/// everything is allowed where it is.
+void ArchiveWriter::checkGraph(Number root) {
+    const ArchiveGraph::Order order = graph_.makingOrder(root);
+    if (!order.fault.empty()) return fail(order.fault);
+    ClassUse use(graph_, rows_.count());
+    bool isAllowed = true;
+    for (const Number number : order.objects) {
+        const std::size_t classNumber = classNumbers_[number - 1];
+        const bool isPlain = classNumber < ArchiveRows::kPlainClasses;
+        use.note(number, classNumber, isPlain);
+        if (isPlain) continue;
+        for (const Number content : graph_.referencesOf(number)) {
+            isAllowed = isAllowed && use.isWithin(content, rows_.allowedInside(classNumber));
+        }
+    }
+    if (!isAllowed || !use.isWithin(root, rows_.allowed())) fail(u"a class that is not allowed");
 }
 
 // ---- Faults ----

@@ -27,10 +27,22 @@ std::optional<std::string> percentDecoded(std::string_view text) {
     return decoded;
 }
 
+/// Whether `url` is of the scheme of files, in any case; then without it.
+bool skipScheme(std::string_view& url) {
+    constexpr std::string_view kScheme = "file:";
+    const auto isSameLetter = [](char a, char b) { return (a | 0x20) == (b | 0x20); };
+    if (url.size() < kScheme.size() ||
+        !std::equal(kScheme.begin(), kScheme.end(), url.begin(), isSameLetter)) {
+        return false;
+    }
+    url.remove_prefix(kScheme.size());
+    return true;
+}
+
 /// The path of this machine that `url` names, still percent-encoded.
 std::optional<std::string_view> encodedPath(std::string_view url) {
     url = url.substr(0, url.find_first_of("?#"));
-    url.remove_prefix(std::string_view("file:").size());
+    if (!skipScheme(url)) return std::nullopt;
     if (url.starts_with("//")) {
         url.remove_prefix(2);
         const std::string_view host = url.substr(0, url.find('/'));
@@ -42,12 +54,14 @@ std::optional<std::string_view> encodedPath(std::string_view url) {
 
 }  // namespace
 
-std::optional<Data> readFileUrl(std::string_view url, std::size_t limit) {
+std::optional<std::string> filePathOfUrl(std::string_view url) {
     const std::optional<std::string_view> encoded = encodedPath(url);
-    if (!encoded) return std::nullopt;
-    const std::optional<std::string> path = percentDecoded(*encoded);
-    if (!path) return std::nullopt;
-    return readFile(*path, limit);
+    return encoded ? percentDecoded(*encoded) : std::nullopt;
+}
+
+std::optional<Data> readFileUrl(std::string_view url, std::size_t limit) {
+    const std::optional<std::string> path = filePathOfUrl(url);
+    return path ? readFile(*path, limit) : std::nullopt;
 }
 
 }  // namespace QZCore

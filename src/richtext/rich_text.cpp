@@ -3,10 +3,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "QZCore/richtext/archived_rich_text.h"
+#include "foundation/hash.h"
 #include "richtext/store.h"
 
 namespace QZCore {
 namespace {
+
+/// Whoever uses rich texts links this file, so archives can hold them then.
+[[maybe_unused]] const bool kIsKnownInArchives =  // NOLINT(cert-err58-cpp)
+    registerArchivedClass(archivedRichText());
 
 bool sameValue(const TextAttributes& a, const TextAttributes& b, StringView name) {
     if (a == b) return true;
@@ -236,6 +242,13 @@ void RichText::noteEdit(Range range, std::size_t newLength) {
     untouchedPrefix_ = edited_ ? std::min(untouchedPrefix_, range.location) : range.location;
     untouchedSuffix_ = edited_ ? std::min(untouchedSuffix_, suffix) : suffix;
     edited_ = true;
+}
+
+// ---- Hashing ----
+
+std::size_t hashOf(const RichText& text) {
+    constexpr std::size_t kHashedUnits = 64;
+    return hashCombine(hashText(text.string({0, kHashedUnits})), text.length());
 }
 
 }  // namespace QZCore

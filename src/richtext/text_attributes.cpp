@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "foundation/hash.h"
+#include "model/release.h"
 #include "richtext/attribute_names.h"
 
 namespace QZCore {
@@ -24,6 +25,7 @@ struct TextAttributes::Node {
     const Value* link = nullptr;
     std::int32_t underlineStyle = 0;
     std::int32_t strikethroughStyle = 0;
+    bool mayNest = false;  // there may be texts with attributes among the values
     std::atomic<std::size_t> references = 1;
     Node* next = nullptr;  // in the same bucket of the table
 };
@@ -143,7 +145,8 @@ struct TextAttributes::Table {
         *at = node->next;
         --count_;
         lock.unlock();
-        delete node;
+        std::unique_ptr<Node> released(node);
+        if (released->mayNest) Release<std::unique_ptr<Node>>::later(std::move(released));
     }
 
 private:
@@ -175,7 +178,21 @@ private:
         node->entries = std::move(entries);
         node->hash = hash;
         for (const TextAttribute& entry : node->entries) note(*node, entry);
+        node->mayNest = mayNest(*node);
         return node;
+    }
+
+    /// Whether the values are more than scalars, texts and the well-known
+    /// objects.
+    static bool mayNest(const Node& node) {
+        const std::ptrdiff_t wellKnown =
+            (node.font != nullptr) + (node.foregroundColor != nullptr) +
+            (node.backgroundColor != nullptr) + (node.paragraphStyle != nullptr) +
+            (node.attachment != nullptr);
+        const auto holdsOthers = [](const TextAttribute& entry) {
+            return entry.value.kind() >= ValueKind::List;
+        };
+        return std::ranges::count_if(node.entries, holdsOthers) > wellKnown;
     }
 
     static void note(Node& node, const TextAttribute& entry) {

@@ -24,8 +24,8 @@ namespace QZCore {
 QZ_EXPORT void setColor(Dictionary& dictionary, const std::optional<Color>& color,
                         StringView forKey);
 
-/// The colour whose string is stored under `key`. Only a stored string can
-/// give one.
+/// The colour whose string is stored under `key`. Stored data is read as the
+/// archived colour that older versions kept there; nothing else gives one.
 [[nodiscard]] QZ_EXPORT std::optional<Color> colorForKey(
     const Preferences& preferences, StringView key,
     const std::optional<Color>& withDefault = std::nullopt);

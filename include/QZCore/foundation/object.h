@@ -9,6 +9,8 @@
 
 namespace QZCore {
 
+class Dictionary;
+
 /// Something that is shared by reference and that a Value can hold beside the
 /// plain kinds: a colour, a font, a rich text, a tree node.
 class QZ_EXPORT Object {
@@ -28,6 +30,16 @@ public:
     /// A copy of its own; an empty pointer when the type has no copies, as by
     /// default.
     [[nodiscard]] virtual std::shared_ptr<const Object> mutableCopy() const;
+
+    /// What the object holds, when values are to see nothing else of it: it is
+    /// equal to others that hold equal entries, its hash follows from them, and
+    /// it is described by its heading and them, whatever the functions above
+    /// say. Values then go into any depth of such objects, and come out of
+    /// circles. Null by default.
+    [[nodiscard]] virtual const Dictionary* heldEntries() const;
+
+    /// What stands before the entries in a description.
+    [[nodiscard]] virtual String heading() const;
 
     Object(const Object&) = default;
     Object& operator=(const Object&) = default;

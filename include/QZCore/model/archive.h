@@ -13,12 +13,12 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <typeinfo>
 #include <vector>
 
 #include "QZCore/export.h"
 #include "QZCore/foundation/property_list.h"
 #include "QZCore/foundation/value.h"
+#include "QZCore/model/archived_class.h"
 
 namespace QZCore {
 
@@ -30,6 +30,7 @@ enum class ArchiveCoding : std::uint8_t {
     Sequential  // one after the other
 };
 
+struct ArchiveForm;
 class ArchiveReader;
 class ArchiveWriter;
 
@@ -48,6 +49,10 @@ public:
     /// one this is a mistake and nothing is written.
     void encodeObject(Value object);
 
+    /// Adds `object` under the key in a keyed archive, as the next in a
+    /// sequential one: for objects that have the same contents in both.
+    void encodeContent(Value object, StringView forKey);
+
     ArchiveEncoder(const ArchiveEncoder&) = delete;
     ArchiveEncoder& operator=(const ArchiveEncoder&) = delete;
 
@@ -63,7 +68,7 @@ private:
 class QZ_EXPORT ArchiveDecoder {
 public:
     /// Whether contents have keys.
-    [[nodiscard]] bool allowsKeyedCoding() const { return coding_ == ArchiveCoding::Keyed; }
+    [[nodiscard]] bool allowsKeyedCoding() const;
 
     /// Whether there is something under `key`, readable or not.
     [[nodiscard]] bool containsValueForKey(StringView key) const;
@@ -73,70 +78,30 @@ public:
     /// is not allowed, or holds something that cannot be read.
     [[nodiscard]] std::optional<Value> decodeObjectForKey(StringView key) const;
 
+    /// The same, when all of it is of these classes, or of classes derived from
+    /// them. What objects in it hold is their own matter.
+    [[nodiscard]] std::optional<Value> decodeObjectForKey(StringView key,
+                                                          const ArchiveClasses& ofClasses) const;
+
     /// The next of the contents in a sequential archive; an absent value when
     /// there are no more. No value at all when it cannot be read.
     [[nodiscard]] std::optional<Value> decodeObject();
+
+    /// What `encodeContent` has added under the key.
+    [[nodiscard]] std::optional<Value> decodeContent(StringView forKey);
 
     ArchiveDecoder(const ArchiveDecoder&) = delete;
     ArchiveDecoder& operator=(const ArchiveDecoder&) = delete;
 
 private:
     friend class ArchiveReader;
-    using Made = std::vector<std::optional<Value>>;
+    ArchiveDecoder(const ArchiveReader& reader, const ArchiveForm& form, std::uint32_t number)
+        : reader_(reader), form_(form), number_(number) {}
 
-    ArchiveDecoder(ArchiveCoding coding, std::span<const String> keys,
-                   std::span<const std::uint32_t> contents, const Made& made)
-        : coding_(coding), keys_(keys), contents_(contents), made_(made) {}
-
-    ArchiveCoding coding_;
-    std::span<const String> keys_;
-    std::span<const std::uint32_t> contents_;
-    const Made& made_;
+    const ArchiveReader& reader_;
+    const ArchiveForm& form_;
+    std::uint32_t number_;
     std::size_t next_ = 0;
-};
-
-// ---- Classes ----------------------------------------------------------------
-
-/// A class of objects that can be in an archive.
-struct ArchivedClass {
-    /// The name in the archive; not one of those in the format below. Stored.
-    String name;
-    /// The type of the objects, exactly.
-    const std::type_info* type = nullptr;
-    /// Hands the contents of an object of the type to the encoder.
-    void (*encode)(const Object& object, ArchiveEncoder& coder) = nullptr;
-    /// Makes an object from its contents; an empty pointer when they are not
-    /// what they should be. The object then counts as unreadable.
-    std::shared_ptr<const Object> (*decode)(ArchiveDecoder& coder) = nullptr;
-};
-
-/// The class T, which has a member function `encodeWithCoder` and a static one
-/// `initWithCoder` that returns a `std::shared_ptr<T>`. A derived class needs
-/// an `initWithCoder` of its own.
-template <class T>
-[[nodiscard]] ArchivedClass archivedClass(StringView name) {
-    return {String(name), &typeid(T),
-            [](const Object& object, ArchiveEncoder& coder) {
-                static_cast<const T&>(object).encodeWithCoder(coder);
-            },
-            [](ArchiveDecoder& coder) -> std::shared_ptr<const Object> {
-                std::shared_ptr<T> made = T::initWithCoder(coder);
-                return made;
-            }};
-}
-
-/// The kinds of values beside objects of classes. Mutable containers are of the
-/// same kind as immutable ones.
-enum class PlainClass : std::uint8_t { Text, Bytes, Number, Date, URL, List, Set, Dictionary };
-
-/// What there may be in an archive.
-struct ArchiveClasses {
-    /// Classes of objects.
-    std::vector<ArchivedClass> objects;
-    /// Other kinds of values; at first all.
-    std::vector<PlainClass> plain = {PlainClass::Text, PlainClass::Bytes,     PlainClass::Number,
-                                     PlainClass::Date, PlainClass::URL,       PlainClass::List,
-                                     PlainClass::Set,  PlainClass::Dictionary};
 };
 
 // ---- Archives ---------------------------------------------------------------

@@ -337,6 +337,9 @@ private:
     int editingDepth_ = 0;
 };
 
+/// A number that is the same for equal texts. Its cost is bounded.
+[[nodiscard]] QZ_EXPORT std::size_t hashOf(const RichText& text);
+
 /// A batch of edits that closes with its scope.
 class QZ_EXPORT RichTextEditing {
 public:
