@@ -247,8 +247,11 @@ void RichText::noteEdit(Range range, std::size_t newLength) {
 // ---- Hashing ----
 
 std::size_t hashOf(const RichText& text) {
-    constexpr std::size_t kHashedUnits = 64;
-    return hashCombine(hashText(text.string({0, kHashedUnits})), text.length());
+    constexpr Range kHashed{0, 64};
+    std::size_t hash = hashCombine(hashText(text.string(kHashed)), text.length());
+    // Equal sets of attributes are one as long as texts have them.
+    for (const TextRunView run : text.runs(kHashed)) hash = hashCombine(hash, run.attributes.hash());
+    return hash;
 }
 
 }  // namespace QZCore
