@@ -1,9 +1,12 @@
-// What is read from an archive can be archived, and comes back as the same; and
-// a tree that was read can be walked.
+// What is read from an archive can be archived, and comes back as the same; a
+// tree that was read can be walked, and an attributed object be compared.
 
 #include "QZCore/foundation/dictionary.h"
 #include "QZCore/model/archive.h"
+#include "QZCore/model/attributed_object.h"
 #include "QZCore/model/tree_node.h"
+#include "QZCore/platform/fonts.h"
+#include "QZCore/richtext/rich_text.h"
 #include "require.h"
 
 using namespace QZCore;
@@ -19,14 +22,30 @@ void checkTree(const QZTreeNode& root) {
     require(!root.description().empty());
 }
 
-}  // namespace
+void checkText(const RichText& text) {
+    const RichText copy = text.attributedSubstringFromRange({0, text.length()});
+    require(copy == text && hashOf(copy) == hashOf(text));
+    require(!text.RTF().empty());
+}
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const ArchiveClasses classes{.objects = {archivedClass<QZTreeNode>(u"QZTreeNode")}};
-    const PropertyListResult read = unarchivedValue({data, size}, classes);
+void checkAttributes(const QZAttributedObject& object) {
+    require(!object.description().empty());
+    require(object.copyWithZone()->hash() == object.hash());
+    QZAttributedObject other;
+    other.setAttributesFromObject(object);
+    other.setAttribute(Value(), u"a");
+    for (const auto& [key, value] : object.attributes()) {
+        if (const auto* text = value.boxedValue<RichText>()) checkText(*text);
+    }
+}
+
+void checkArchive(DataView bytes, const ArchiveClasses& classes) {
+    const PropertyListResult read = unarchivedValue(bytes, classes);
     require(read.error.empty() || read.value.isAbsent());
-    if (!read.error.empty()) return 0;
+    if (!read.error.empty()) return;
     if (const auto root = objectIn<QZTreeNode>(read.value)) checkTree(*root);
+    if (const auto root = objectIn<QZAttributedObject>(read.value)) checkAttributes(*root);
+    if (const auto* root = read.value.boxedValue<RichText>()) checkText(*root);
 
     for (const ArchiveCoding coding : {ArchiveCoding::Keyed, ArchiveCoding::Sequential}) {
         const PropertyListData written = archivedData(read.value, classes, coding);
@@ -35,5 +54,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(again.error.empty());
         require(archivedData(again.value, classes, coding).data == written.data);
     }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const bool fontsAreMadeUp = [] {
+        (void)setSharedFontCatalog(makeInMemoryFontCatalog());
+        return true;
+    }();
+    require(fontsAreMadeUp);
+    checkArchive({data, size}, {.objects = {archivedClass<QZTreeNode>(u"QZTreeNode")}});
+    checkArchive({data, size}, QZAttributedObject().archivableClasses());
     return 0;
 }
