@@ -22,7 +22,7 @@ void readColors(const QZSettings& settings) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const auto& folder = *new testing::TemporaryFolder;
+    static const testing::TemporaryFolder folder;
     const std::string path = folder / "settings";
     const URL url = URL::fromFilePath(path);
     require(writeFileAtomically(path, {data, size}));
