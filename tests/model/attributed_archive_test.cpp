@@ -34,6 +34,8 @@ protected:
     ArchivedClass ownClass() const override { return archived(); }
 };
 
+bool isTask(const Value& value) { return objectIn<Task>(value) != nullptr; }
+
 ArchiveClasses taskClasses() { return Task().archivableClasses(); }
 
 std::shared_ptr<QZAttributedObject> objectWith(const Value& attribute) {
@@ -102,7 +104,7 @@ TEST_CASE("random attributed objects come back as they were") {
             REQUIRE(archive.has_value());
             const auto back = unarchived(*archive, classes);
             REQUIRE(back->isEqual(value));
-            REQUIRE(typeid(*back) == typeid(*value.object()));
+            REQUIRE(isTask(Value(back)) == isTask(value));
             REQUIRE(archivedData(Value(back), classes, coding).data == archive);  // all kinds, too
         }
     }
@@ -176,10 +178,10 @@ TEST_CASE("classes of an application are allowed where they are the object's own
     const auto task = std::make_shared<Task>();
     task->setAttribute(Value(task->copyWithZone()), u"own class");
     const auto back = thereAndBack(*task, taskClasses());
-    CHECK(typeid(*back) == typeid(Task));
-    CHECK(objectIn<Task>(back->attributeForKey(u"own class")) != nullptr);
+    CHECK(isTask(Value(back)));
+    CHECK(isTask(back->attributeForKey(u"own class")));
     const auto holder = thereAndBack(*objectWith(Value(task)), taskClasses());
-    CHECK(objectIn<Task>(holder->attributeForKey(u"a")) != nullptr);
+    CHECK(isTask(holder->attributeForKey(u"a")));
 
     struct Strict final : QZAttributedObject {
         static std::shared_ptr<Strict> initWithCoder(ArchiveDecoder& coder) {

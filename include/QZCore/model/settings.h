@@ -84,11 +84,11 @@ public:
     ///
     /// What was modified counts as modified still. Deliberate: `saveIfModified`
     /// writes again until somebody clears `modified`.
-    bool save();  // NOLINT(modernize-use-nodiscard): many callers cannot do anything about it
+    bool save();
 
     /// `save` when the settings are modified; returns whether everything is in
     /// the file, as far as `modified` tells.
-    bool saveIfModified();  // NOLINT(modernize-use-nodiscard)
+    bool saveIfModified();
 
     /// Whether `setObject` or `removeObjectForKey` was called since the settings
     /// were made or loaded.
