@@ -39,7 +39,11 @@ void checkAttributes(const QZAttributedObject& object) {
     }
 }
 
-void checkArchive(DataView bytes, const ArchiveClasses& classes) {
+/// How exactly a value comes back. What is shared between attributes of texts
+/// and elsewhere need not be shared afterwards: equal attributes are kept once.
+enum class Law { SameBytes, SameDescription };
+
+void checkArchive(DataView bytes, const ArchiveClasses& classes, Law law) {
     const PropertyListResult read = unarchivedValue(bytes, classes);
     require(read.error.empty() || read.value.isAbsent());
     if (!read.error.empty()) return;
@@ -52,7 +56,10 @@ void checkArchive(DataView bytes, const ArchiveClasses& classes) {
         require(written.data.has_value());
         const PropertyListResult again = unarchivedValue(*written.data, classes);
         require(again.error.empty());
-        require(archivedData(again.value, classes, coding).data == written.data);
+        const PropertyListData rewritten = archivedData(again.value, classes, coding);
+        require(rewritten.data.has_value());
+        require(again.value.description() == read.value.description());
+        if (law == Law::SameBytes) require(rewritten.data == written.data);
     }
 }
 
@@ -64,7 +71,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return true;
     }();
     require(fontsAreMadeUp);
-    checkArchive({data, size}, {.objects = {archivedClass<QZTreeNode>(u"QZTreeNode")}});
-    checkArchive({data, size}, QZAttributedObject().archivableClasses());
+    checkArchive({data, size}, {.objects = {archivedClass<QZTreeNode>(u"QZTreeNode")}},
+                 Law::SameBytes);
+    checkArchive({data, size}, QZAttributedObject().archivableClasses(), Law::SameDescription);
     return 0;
 }
