@@ -250,7 +250,8 @@ std::size_t hashOf(const RichText& text) {
     constexpr Range kHashed{0, 64};
     std::size_t hash = hashCombine(hashText(text.string(kHashed)), text.length());
     // Equal sets of attributes are one as long as texts have them.
-    for (const TextRunView run : text.runs(kHashed)) hash = hashCombine(hash, run.attributes.hash());
+    for (const TextRunView run : text.runs(kHashed))
+        hash = hashCombine(hash, run.attributes.hash());
     return hash;
 }
 

@@ -2,33 +2,23 @@
 
 #include "QZCore/color/stored_colors.h"
 #include "QZCore/foundation/property_list.h"
+#include "support/bytes.h"
 #include "support/color_printing.h"
 #include "support/log_capture.h"
 
 namespace QZCore {
 namespace {
 
-std::string streamOf(std::string_view start, std::string_view rest) {
-    std::string stream(start);
-    stream.append("\x84\x01@\x84\x84\x84\x07NSColor", 14).append(1, '\0');
-    stream.append("\x84\x84\x08NSObject", 11)
-        .append(
-            "\0\x85\x84\x01"
-            "c",
-            5)
-        .append(rest);
-    return stream;
-}
+// Everything before the model of a colour, the low byte of numbers first or last.
+constexpr StringView kLittle =
+    u"040B73747265616D747970656481E803"
+    u"840140848484074E53436F6C6F72008484084E534F626A6563740085840163";
+constexpr StringView kBig =
+    u"040B747970656473747265616D8103E8"
+    u"840140848484074E53436F6C6F72008484084E534F626A6563740085840163";
 
-std::string little(std::string_view rest) {
-    return streamOf("\x04\x0Bstreamtyped\x81\xE8\x03", rest);
-}
-
-std::string big(std::string_view rest) { return streamOf("\x04\x0Btypedstream\x81\x03\xE8", rest); }
-
-template <std::size_t size>
-std::string_view bytes(const char (&text)[size]) {
-    return {text, size - 1};
+Data streamOf(StringView start, StringView rest) {
+    return testing::fromHex(String(start).append(rest));
 }
 
 /// A keyed archive whose root is a dictionary with the entries.
@@ -39,10 +29,7 @@ Data keyed(const Dictionary& root) {
         .data.value();
 }
 
-Data dataOf(std::string_view text) {
-    const DataView view = bytesOf(text);
-    return {view.begin(), view.end()};
-}
+Data dataOf(std::string_view text) { return {text.begin(), text.end()}; }
 
 }  // namespace
 
@@ -53,38 +40,21 @@ TEST_CASE("colours that older versions archived are read from preferences") {
         std::optional<Color> color;
     };
     const Row rows[] = {
-        {"white level",
-         dataOf(little(bytes("\x03\x84\x02"
-                             "ff\0\x01\x86"))),
+        {"white level", streamOf(kLittle, u"0384026666000186"),
          Color::colorWithCalibratedWhite(0, 1)},
-        {"whole components",
-         dataOf(little(bytes("\x01\x84\x04"
-                             "ffff\x01\0\0\x01\x86"))),
+        {"whole components", streamOf(kLittle, u"018404666666660100000186"),
          Color::colorWithCalibratedRed(1, 0, 0, 1)},
-        {"real components, the low byte first",
-         dataOf(little(bytes("\x02\x84\x04"
-                             "ffff\x83\0\0\0\x3F\0\x01\x83\0\0\x80\x3E\x86"))),
+        {"real components", streamOf(kLittle, u"02840466666666830000003F0001830000803E86"),
          Color::colorWithDeviceRed(0.5, 0, 1, 0.25)},
-        {"real components, the high byte first",
-         dataOf(big(bytes("\x04\x84\x02"
-                          "ff\x83\x3F\0\0\0\x01\x86"))),
+        {"real components, the high byte first", streamOf(kBig, u"0484026666833F0000000186"),
          Color::colorWithCalibratedWhite(0.5, 1)},
-        {"a colour of another model",
-         dataOf(little(bytes("\x05\x84\x05"
-                             "fffff\0\0\0\0\x01\x86"))),
-         {}},
-        {"components of another number",
-         dataOf(little(bytes("\x01\x84\x02"
-                             "ff\0\x01\x86"))),
-         {}},
-        {"cut off",
-         dataOf(little(bytes("\x03\x84\x02"
-                             "ff\x83\0\0"))),
-         {}},
+        {"another model", streamOf(kLittle, u"05840566666666660000000001"), {}},
+        {"components of another number", streamOf(kLittle, u"0184026666000186"), {}},
+        {"cut off", streamOf(kLittle, u"0384026666830000"), {}},
         {"keyed", keyed({{u"NSColorSpace", 1}, {u"NSRGB", dataOf("0.25 0.5 1")}}),
          Color::colorWithCalibratedRed(0.25, 0.5, 1, 1)},
         {"keyed, with an alpha and a zero byte",
-         keyed({{u"NSColorSpace", 2}, {u"NSRGB", dataOf(bytes("0 0 1 0.5\0"))}}),
+         keyed({{u"NSColorSpace", 2}, {u"NSRGB", dataOf({"0 0 1 0.5\0", 10})}}),
          Color::colorWithDeviceRed(0, 0, 1, 0.5)},
         {"keyed white level", keyed({{u"NSColorSpace", 3}, {u"NSWhite", dataOf("0.75 1")}}),
          Color::colorWithCalibratedWhite(0.75, 1)},

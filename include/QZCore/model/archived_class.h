@@ -80,7 +80,8 @@ template <class T>
 /// The value type T in its box (`Value::boxed`). No walk goes through a box.
 template <class T, void (*encode)(const T&, ArchiveEncoder&),
           std::optional<T> (*decode)(ArchiveDecoder&)>
-[[nodiscard]] ArchivedClass archivedBox(StringView name, std::vector<ArchivedClass> parts = {}) {
+[[nodiscard]] ArchivedClass archivedBox(StringView name,
+                                        const std::vector<ArchivedClass>& parts = {}) {
     return {.name = String(name),
             .type = &typeid(Boxed<T>),
             .encode =
@@ -93,7 +94,7 @@ template <class T, void (*encode)(const T&, ArchiveEncoder&),
                 return std::make_shared<Boxed<T>>(*std::move(made));
             },
             .isWalked = false,
-            .parts = std::move(parts)};
+            .parts = parts};
 }
 
 /// The kinds of values beside objects of classes. Mutable containers are of the

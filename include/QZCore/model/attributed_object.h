@@ -5,24 +5,6 @@
 // format. Attributed objects are shared, stand in values as `Value(object)`,
 // and `objectIn<QZAttributedObject>` gets them back; so they nest, to any depth.
 //
-// A derived class says what its objects are made and archived as:
-//
-//     class Task final : public QZAttributedObject {
-//     public:
-//         static ArchivedClass archived() { return archivedClass<Task>(u"Task"); }
-//         static std::shared_ptr<Task> initWithCoder(ArchiveDecoder& coder) {
-//             auto task = std::make_shared<Task>();
-//             task->readFromCoder(coder);
-//             return task;
-//         }
-//
-//     protected:
-//         std::shared_ptr<QZAttributedObject> newObject() const override {
-//             return std::make_shared<Task>();
-//         }
-//         ArchivedClass ownClass() const override { return archived(); }
-//     };
-//
 // An object is used from one thread at a time.
 #pragma once
 
@@ -40,6 +22,25 @@
 namespace QZCore {
 
 /// An object with named attributes.
+///
+/// A derived class says what its objects are made and archived as:
+/// @code
+///     class Task final : public QZAttributedObject {
+///     public:
+///         static ArchivedClass archived() { return archivedClass<Task>(u"Task"); }
+///         static std::shared_ptr<Task> initWithCoder(ArchiveDecoder& coder) {
+///             auto task = std::make_shared<Task>();
+///             task->readFromCoder(coder);
+///             return task;
+///         }
+///
+///     protected:
+///         std::shared_ptr<QZAttributedObject> newObject() const override {
+///             return std::make_shared<Task>();
+///         }
+///         ArchivedClass ownClass() const override { return archived(); }
+///     };
+/// @endcode
 class QZ_EXPORT QZAttributedObject : public CopyableObject {
 public:
     /// An object without attributes.

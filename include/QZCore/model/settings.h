@@ -40,6 +40,7 @@ public:
                                                                      const Array& forKeys,
                                                                      std::size_t count);
 
+    /// Lets go of the entries; saves nothing.
     ~QZSettings();
     QZSettings(const QZSettings&) = delete;
     QZSettings& operator=(const QZSettings&) = delete;
