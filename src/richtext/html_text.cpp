@@ -263,6 +263,15 @@ FlatText HtmlText::inParagraphStyles(const std::vector<HtmlList>& lists,
     FlatText flat;
     StyleNumbers styles;
     std::unordered_map<std::uint64_t, std::uint32_t> ids;  // by style and attributes
+    const auto idFor = [&](std::uint64_t style, std::uint32_t id) {
+        const auto [at, isNew] = ids.try_emplace(style << 32 | id);
+        if (isNew) {
+            const Value& paragraphStyle = styles.value(static_cast<std::uint32_t>(style));
+            at->second = palette.idOf(withReadableColor(
+                palette_.at(id).withAttribute(attributeNames().paragraphStyle, paragraphStyle)));
+        }
+        return at->second;
+    };
     MarkerWidths widths;
     std::uint32_t start = 0;
     std::size_t run = 0;
@@ -274,14 +283,8 @@ FlatText HtmlText::inParagraphStyles(const std::vector<HtmlList>& lists,
         const std::uint64_t style = styles.numberOf(paragraph.style);
         for (; start < paragraph.end; start = std::min(runs_[run].end, paragraph.end)) {
             while (runs_[run].end <= start) ++run;
-            const std::uint32_t id = runs_[run].id;
-            const auto [at, isNew] = ids.try_emplace(style << 32 | id);
-            if (isNew) {
-                at->second = palette.idOf(withReadableColor(palette_.at(id).withAttribute(
-                    attributeNames().paragraphStyle,
-                    styles.value(static_cast<std::uint32_t>(style)))));
-            }
-            appendRun(flat.runs, std::min(runs_[run].end, paragraph.end), at->second);
+            appendRun(flat.runs, std::min(runs_[run].end, paragraph.end),
+                      idFor(style, runs_[run].id));
         }
     }
     flat.text = std::move(text_);
