@@ -28,6 +28,19 @@ std::uint32_t engineFlags(std::uint32_t options) {
     return flags;
 }
 
+/// Whether a pattern names the first half of a surrogate pair without the other,
+/// as itself or escaped. The engine would find such a literal within a pair, and
+/// then lose the start of what it repeats and read on before the text.
+bool namesHalfOfPair(const icu::UnicodeString& pattern) {
+    for (std::int32_t at = 0; at < pattern.length();) {
+        UChar32 named = pattern.char32At(at);
+        at += U16_LENGTH(named);
+        if (named == u'\\') named = pattern.unescapeAt(at);
+        if (U_IS_LEAD(named)) return true;
+    }
+    return false;
+}
+
 Range whole(StringView text) { return {0, text.size()}; }
 
 }  // namespace
@@ -42,11 +55,12 @@ std::optional<RegularExpression> RegularExpression::compile(StringView pattern,
     // The engine would find the empty pattern everywhere; here it is no expression,
     // so that an empty setting does not change every text.
     if (pattern.empty() || pattern.size() > kLongestRegexText) return std::nullopt;
+    const icu::UnicodeString source(pattern.data(), static_cast<std::int32_t>(pattern.size()));
+    if (namesHalfOfPair(source)) return std::nullopt;
     UErrorCode status = U_ZERO_ERROR;
     UParseError position;
-    std::unique_ptr<const icu::RegexPattern> engine(icu::RegexPattern::compile(
-        icu::UnicodeString(pattern.data(), static_cast<std::int32_t>(pattern.size())),
-        engineFlags(options), position, status));
+    std::unique_ptr<const icu::RegexPattern> engine(
+        icu::RegexPattern::compile(source, engineFlags(options), position, status));
     if (U_FAILURE(status)) return std::nullopt;
     const std::unique_ptr<icu::RegexMatcher> matcher(engine->matcher(status));
     if (U_FAILURE(status)) return std::nullopt;

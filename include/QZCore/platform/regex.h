@@ -53,8 +53,8 @@ inline constexpr std::int32_t kDefaultMatchBudget = 5000;
 class QZ_EXPORT RegularExpression {
 public:
     /// Compiles `pattern` with the sum of `RegexOptions`; nothing when the
-    /// pattern is empty or not well-formed, or an option bit is unknown. A
-    /// budget below 1 counts as 1.
+    /// pattern is empty, not well-formed or has the first half of a surrogate
+    /// pair alone, or an option bit is unknown. A budget below 1 counts as 1.
     [[nodiscard]] static std::optional<RegularExpression> compile(
         StringView pattern, std::uint32_t options = kRegexNoOptions,
         std::int32_t budget = kDefaultMatchBudget);
