@@ -1,5 +1,8 @@
 #include "QZCore/richtext/variables.h"
 
+#include <utility>
+#include <vector>
+
 #include "QZCore/codecs/transforming.h"
 #include "QZCore/foundation/preferences.h"
 #include "QZCore/richtext/rich_text.h"
@@ -7,10 +10,14 @@
 #include "richtext/attribute_names.h"
 #include "richtext/link_look.h"
 #include "richtext/variable_dates.h"
-#include "richtext/variable_matches.h"
+#include "richtext/variable_text.h"
 
 namespace QZCore {
 namespace {
+
+// Values may contain variables: a few dozen, each twice in the one before, would
+// fill the memory.
+constexpr std::size_t kMostUnits = std::size_t{1} << 24;
 
 String inLetterCase(StringView text, StringView letterCase) {
     if (letterCase == u"uppercase") return textInCase(text, LetterCase::Upper);
@@ -23,33 +30,36 @@ String inLetterCase(StringView text, StringView letterCase) {
 class VariableReplacement {
 public:
     VariableReplacement(RichText& text, StringView prefix, StringView suffix, std::uint32_t options)
-        : text_(text), prefix_(prefix), suffix_(suffix), options_(options) {
-        readText();
-    }
+        : text_(text), variables_(text.string(), prefix, suffix), options_(options) {}
 
-    [[nodiscard]] bool hasPrefix() const { return variables_->hasPrefix(); }
+    [[nodiscard]] bool hasPrefix() const { return variables_.hasPrefix(); }
 
     /// Returns how many were replaced.
     std::int64_t replace(StringView name, const Value& value) {
-        std::int64_t count = 0;
-        const auto matches = variables_->matches(name);
+        const auto edits = editsFor(name, value);
+        if (edits.empty()) return 0;
         // The last first, so that the others stay where they are.
-        for (auto match = matches.rbegin(); match != matches.rend(); ++match) {
-            const StringView tail =
-                StringView(plain_).substr(match->tail.location, match->tail.length);
-            const auto replacement = textFor(name, value, parsedTail(tail));
-            if (!replacement) continue;
-            put(*replacement, match->whole);
-            ++count;
-        }
-        if (count > 0) readText();
-        return count;
+        for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) put(*edit);
+        variables_.apply(edits);
+        return static_cast<std::int64_t>(edits.size());
     }
 
 private:
-    void readText() {
-        plain_ = text_.string();
-        variables_.emplace(plain_, prefix_, suffix_);
+    /// None if they would put in too much.
+    [[nodiscard]] std::vector<VariableEdit> editsFor(StringView name, const Value& value) {
+        std::vector<VariableEdit> edits;
+        std::size_t length = 0;
+        for (const VariableMatch& match : variables_.matches(name)) {
+            const StringView tail =
+                variables_.text().substr(match.tail.location, match.tail.length);
+            auto text = textFor(name, value, parsedTail(tail));
+            if (!text) continue;
+            length += text->size();
+            if (length > room_) return {};
+            edits.push_back({match.whole, std::move(*text)});
+        }
+        room_ -= length;
+        return edits;
     }
 
     [[nodiscard]] std::optional<String> textFor(StringView name, const Value& value,
@@ -67,22 +77,20 @@ private:
         return text && encodes ? percentEncodeQuery(*text) : text;
     }
 
-    void put(StringView replacement, Range range) {
-        text_.replaceCharactersInRange(range, replacement);
-        if (replacement.find(u"://") == StringView::npos) return;
-        const auto url = URL::fromString(replacement);
+    void put(const VariableEdit& edit) {
+        text_.replaceCharactersInRange(edit.range, edit.text);
+        if (edit.text.find(u"://") == String::npos) return;
+        const auto url = URL::fromString(edit.text);
         if (!url) return;
         const TextAttributes link =
             linkLook(Preferences::shared()).withAttribute(attributeNames().link, *url);
-        text_.addAttributes(link, {range.location, replacement.size()});
+        text_.addAttributes(link, {edit.range.location, edit.text.size()});
     }
 
     RichText& text_;
-    StringView prefix_;
-    StringView suffix_;
+    VariableText variables_;  // of the characters of `text_`
     std::uint32_t options_;
-    String plain_;  // the text before the variables of a name are replaced
-    std::optional<VariableSearch> variables_;
+    std::size_t room_ = kMostUnits;  // for what is put in
     VariableDates dates_;
 };
 

@@ -1,6 +1,7 @@
 #include "QZCore/richtext/variables.h"
 
 #include <random>
+#include <thread>
 
 #include "QZCore/color/color.h"
 #include "QZCore/dates/calendar.h"
@@ -9,7 +10,7 @@
 #include "QZCore/platform/regex.h"
 #include "QZCore/richtext/formatted_text.h"
 #include "QZCore/richtext/rich_text.h"
-#include "richtext/variable_matches.h"
+#include "richtext/variable_text.h"
 #include "support/locale_scope.h"
 #include "support/preference_setting.h"
 #include "support/printing.h"
@@ -76,6 +77,8 @@ TEST_CASE("variables take strings in a letter case, and numbers") {
         {"the tail is behind the name's groups", u"<<(N)/uppercase>> <<N/uppercase>>", u"(N)", u"a",
          u"<<(N)/uppercase>> A", 1},
         {"a pattern that is none", u"<<N(>>", u"N(", 7, u"<<N(>>", 0},
+        {"half a surrogate pair is no name", u"<<\xD83D>> <<\U0001F642>>", u"\xD83D", 7,
+         u"<<\xD83D>> <<\U0001F642>>", 0},
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
@@ -173,7 +176,7 @@ TEST_CASE("names without pattern characters are found like the expression they s
         const auto expression =
             RegularExpression::compile(u"<<N([^" + String(suffix) + u"]*)" + String(suffix));
         const auto expected = expression->matchesInString(text);
-        const auto found = VariableSearch(text, u"<<", suffix).matches(u"N");
+        const auto found = VariableText(text, u"<<", suffix).matches(u"N");
         CAPTURE(text);
         REQUIRE(found.size() == expected.size());
         for (std::size_t k = 0; k < found.size(); ++k) {
@@ -181,6 +184,57 @@ TEST_CASE("names without pattern characters are found like the expression they s
             REQUIRE(found[k].tail == expected[k].group(1));
         }
     }
+}
+
+TEST_CASE("many names are replaced as if one after another") {
+    std::mt19937 random(7);
+    const StringView pieces[] = {u"<", u"<<", u"N", u"M", u">", u">>", u"N>>", u""};
+    const auto text = [&](std::size_t most) {
+        String made;
+        for (auto length = random() % most; length > 0; --length) made += pieces[random() % 8];
+        return made;
+    };
+    for (int i = 0; i < 2000; ++i) {
+        const StringView prefix = pieces[random() % 2];
+        const Dictionary values{{u"N", text(4)}, {u"<", text(4)}, {u"M", text(4)}, {u"", text(4)}};
+        RichText together(text(30));
+        RichText apart = together;
+        CAPTURE(together.string());
+        const auto count = together.replaceVariablesWithDictionary(values, prefix, u">", 0);
+        std::int64_t sum = 0;
+        for (const auto& [name, value] : values) {
+            const Dictionary one{{name, value}};
+            sum += apart.replaceVariablesWithDictionary(one, prefix, u">", 0);
+        }
+        REQUIRE(together.string() == apart.string());
+        REQUIRE(count == sum);
+    }
+}
+
+TEST_CASE("values that hold each other do not fill the memory") {
+    Dictionary values;
+    for (char16_t name = u'A'; name <= u'Z'; ++name) {
+        const String next{u'<', static_cast<char16_t>(name + 1), u'>'};
+        values.setObject(next + next + next + next, StringView(&name, 1));
+    }
+    RichText text(u"<A>");
+    CHECK(text.replaceVariablesWithDictionary(values, u"<", u">", 0) > 0);
+    CHECK(text.length() <= std::size_t{1} << 24);
+}
+
+TEST_CASE("several threads fill templates at once") {
+    const LocaleScope british(u"en_GB");
+    std::vector<std::thread> threads(4);
+    for (std::thread& thread : threads) {
+        thread = std::thread([] {
+            for (int i = 0; i < 50; ++i) {
+                const Date day{i * 86400.0};
+                CHECK(replaced(u"<<DateFormat:d zzzz>>", u"Date", day).count == 1);
+                CHECK(replaced(u"<<DateTime>>", u"DateTime", day).count == 1);
+            }
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
 }
 
 TEST_CASE("long templates are filled in linear time") {

@@ -284,7 +284,9 @@ public:
     ///   Date With Time Medium" (off unless set). The character before a slash
     ///   is not part of the format: "Short /uppercase" is short.
     /// - Other values, formats that are not allowed, and patterns and dates that
-    ///   give no text leave the variable where it is.
+    ///   give no text leave the variable where it is. So does a name whose values
+    ///   would make what is put in longer than 2^24 units altogether, since
+    ///   values may contain variables of later names.
     ///
     /// A replacement that is a URL with "://" becomes a link in the colour of
     /// the preference "Link Color", underlined unless "Link Underline" is off.
