@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_set>
 
 namespace QZCore {
@@ -24,8 +25,18 @@ std::string asciiIdentifier(StringView identifier) {
     return ascii;
 }
 
+/// Whether everything in front of the keywords is made of letters and digits;
+/// ICU fails to make some formats for others.
+bool hasPlainName(std::string_view identifier) {
+    const std::string_view name = identifier.substr(0, identifier.find('@'));
+    return name.find_first_not_of(
+               "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+               "0123456789_-.") == std::string_view::npos;
+}
+
 /// An unknown language would get the customs of the process's locale.
 icu::Locale knownLocale(const std::string& identifier) {
+    if (!hasPlainName(identifier)) return icu::Locale::getRoot();
     const icu::Locale locale = icu::Locale::createCanonical(identifier.c_str());
     return *locale.getISO3Language() == '\0' ? icu::Locale::getRoot() : locale;
 }

@@ -66,6 +66,8 @@ TEST_CASE("styles and patterns are those of the locale") {
         {"the zone", u"de_DE", Style::None, Style::Long, u"14:05:00 MEZ"},
         {"nothing at all", u"de_DE", Style::None, Style::None, u""},
         {"a locale that is none", u"?", Style::Short, Style::None, u"2021-12-25"},
+        {"a name with more than letters", u"de_DEDcalendar=roc", Style::None, Style::Full,
+         u"14:05:00 GMT+01:00"},
     };
     for (const Row& row : rows) {
         CAPTURE(row.why);
@@ -173,6 +175,13 @@ TEST_CASE("the preferred locale and calendar come from preferences, languages an
     CHECK_FALSE(own.setCalendarIdentifier(u"Buddhist"));
     CHECK(own.setDateStyleOrFormat(u"*LONG").stringFromDate(at(2023, 12, 25)) ==
           u"25. Dezember 2566 BE");
+}
+
+TEST_CASE("whether short dates begin with the month is found out once") {
+    for (const StringView locale : {u"en_US", u"de_DE"}) {
+        const LocaleScope scope(locale);
+        CHECK(DateFormatter::prefersMonthDay());
+    }
 }
 
 TEST_CASE("a style word sets one style, any other text the pattern") {
