@@ -61,8 +61,6 @@ bool beginsWithMonth(DateFormatter formatter) {
 
 }  // namespace
 
-Formatter::~Formatter() = default;
-
 DateFormatter::DateFormatter() : locale_(sharedUserLocales()->currentLocale()) {}
 
 DateFormatter::DateFormatter(StringView localeIdentifier) : locale_(localeIdentifier) {}

@@ -10,15 +10,19 @@
 
 namespace QZCore {
 
-/// Keeps the last few formats in use, the latest first. Any thread may ask.
+/// Keeps the last few formats in use, the latest first, unless the texts in
+/// their rules are long. Any thread may ask.
 template <class Rules, class Format>
 class FormatCache {
 public:
-    /// The format that `make(rules)` gives, now or earlier.
+    /// The format that `make(rules)` gives, now or earlier; null where it gives
+    /// none.
     template <class Make>
     [[nodiscard]] std::shared_ptr<const Format> formatFor(const Rules& rules, Make make) {
+        if (rules.textLength() > kLongestText) return make(rules);
         if (auto known = find(rules)) return known;
         std::shared_ptr<const Format> made = make(rules);
+        if (made == nullptr) return nullptr;
         const std::lock_guard lock(mutex_);
         if (entries_.size() == kMostFormats) entries_.pop_back();
         entries_.insert(entries_.begin(), Entry{rules, made});
@@ -27,6 +31,7 @@ public:
 
 private:
     static constexpr std::size_t kMostFormats = 32;
+    static constexpr std::size_t kLongestText = 1000;
 
     struct Entry {
         Rules rules;

@@ -11,6 +11,7 @@
 
 #include "dates/format_cache.h"
 #include "dates/icu_locale.h"
+#include "dates/icu_text.h"
 #include "dates/icu_time_zone.h"
 
 namespace QZCore {
@@ -23,19 +24,6 @@ constexpr double kFarthestMillisecond = 1.8e17;
 
 // Nobody types a longer date, and ICU needs more than linear time to read one.
 constexpr std::size_t kLongestDate = 1000;
-
-// Longer patterns are not kept.
-constexpr std::size_t kLongestKeptPattern = 1000;
-
-/// A view of `text`, which must outlive it.
-icu::UnicodeString viewOf(StringView text) {
-    return {/*isTerminated=*/0, icu::ConstChar16Ptr(text.data()),
-            static_cast<std::int32_t>(text.size())};
-}
-
-String stringOf(const icu::UnicodeString& text) {
-    return {text.getBuffer(), static_cast<std::size_t>(text.length())};
-}
 
 icu::DateFormat::EStyle icuStyle(DateFormatterStyle style) {
     switch (style) {
@@ -152,7 +140,6 @@ std::shared_ptr<const DateFormat> makeFormat(const DateFormatRules& rules) {
 }  // namespace
 
 std::shared_ptr<const DateFormat> DateFormat::forRules(const DateFormatRules& rules) {
-    if (rules.pattern && rules.pattern->size() > kLongestKeptPattern) return makeFormat(rules);
     static auto& cache = *new FormatCache<DateFormatRules, DateFormat>;
     return cache.formatFor(rules, makeFormat);
 }

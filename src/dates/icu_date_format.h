@@ -20,6 +20,10 @@ struct DateFormatRules {
     std::optional<String> pattern;  // goes before the styles
     std::shared_ptr<const TimeZone> timeZone;
 
+    [[nodiscard]] std::size_t textLength() const {
+        return locale.size() + (pattern ? pattern->size() : 0);
+    }
+
     friend bool operator==(const DateFormatRules&, const DateFormatRules&) = default;
 };
 

@@ -18,6 +18,8 @@ struct NumberFormatRules {
     std::optional<int> fewestDecimals;
     std::optional<int> mostDecimals;
 
+    [[nodiscard]] std::size_t textLength() const { return locale.size(); }
+
     friend bool operator==(const NumberFormatRules&, const NumberFormatRules&) = default;
 };
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "QZCore/platform/clock.h"
+#include "dates/icu_text.h"
 #include "dates/local_time.h"
 #include "foundation/civil_date.h"
 
@@ -11,10 +12,6 @@ namespace QZCore {
 namespace {
 
 constexpr std::int32_t kMillisecondsPerSecond = 1000;
-
-icu::UnicodeString unicodeString(StringView text) {
-    return {text.data(), static_cast<std::int32_t>(text.size())};
-}
 
 /// The offset of a zone at a time, as ICU takes it apart.
 struct Offset {
@@ -39,7 +36,7 @@ Offset offsetOf(const TimeZone& zone, const ZonePeriod& period) {
 class SystemRules final : public icu::TimeZone {
 public:
     explicit SystemRules(std::shared_ptr<const QZCore::TimeZone> zone)
-        : icu::TimeZone(unicodeString(zone->identifier())), zone_(std::move(zone)) {}
+        : icu::TimeZone(viewOf(zone->identifier())), zone_(std::move(zone)) {}
 
     [[nodiscard]] SystemRules* clone() const override { return new SystemRules(*this); }
 

@@ -5,6 +5,7 @@
 
 #include "QZCore/platform/user_locales.h"
 #include "dates/icu_number_format.h"
+#include "dates/icu_text.h"
 #include "dates/number_bounds.h"
 
 namespace QZCore {
@@ -68,7 +69,7 @@ String NumberFormatter::stringFromNumber(const Value& number) const {
     } else {
         format->format(static_cast<int64_t>(number.integerValue()), text);
     }
-    return {text.getBuffer(), static_cast<std::size_t>(text.length())};
+    return stringOf(text);
 }
 
 Value NumberFormatter::parsed(StringView text, std::size_t& used) const {
@@ -81,9 +82,7 @@ Value NumberFormatter::parsed(StringView text, std::size_t& used) const {
     if (format == nullptr || rest.empty() || rest.size() > kLongestNumber) return {};
     icu::Formattable result;
     icu::ParsePosition position(0);
-    format->parse(icu::UnicodeString(/*isTerminated=*/0, icu::ConstChar16Ptr(rest.data()),
-                                     static_cast<std::int32_t>(rest.size())),
-                  result, position);
+    format->parse(viewOf(rest), result, position);
     if (position.getErrorIndex() >= 0 || position.getIndex() == 0) return {};
     used = text.size() - rest.size() + static_cast<std::size_t>(position.getIndex());
     return numberIn(result);

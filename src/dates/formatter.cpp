@@ -1,0 +1,7 @@
+#include "QZCore/dates/formatter.h"
+
+namespace QZCore {
+
+Formatter::~Formatter() = default;
+
+}  // namespace QZCore
