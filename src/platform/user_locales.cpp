@@ -1,5 +1,6 @@
 #include "QZCore/platform/user_locales.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <initializer_list>
 
