@@ -75,6 +75,8 @@ TEST_CASE("the command writes what was asked for, or one line and an exit code")
         {"qznote workdays 2024-03-01 --to 2024-03-02T01:00", 0, "23 hours\n"},
         {"qznote workdays 2024-02-30", 2, "qznote: no such date: 2024-02-30" + seeHelp},
         {"qznote workdays 2024-03-01 --add 5x", 2, "qznote: no such amount: 5x" + seeHelp},
+        {"qznote workdays 2024-03-01 --add 9223372036854775807d", 2,
+         "qznote: no such amount: 9223372036854775807d" + seeHelp},
         {"qznote workdays now --hours 9-17", 2, "qznote: no such days or hours" + seeHelp},
         {"qznote workdays", 2, "qznote: workdays needs a date" + seeHelp},
         {"mkfifo pipe; (printf '**a**' > pipe &) && qznote render pipe", 0, "a"},

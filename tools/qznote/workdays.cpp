@@ -82,7 +82,7 @@ std::optional<DateComponents> amountOf(std::string_view text) {
     const auto number = numberOf<std::int64_t>(text);
     const auto* unit = std::find_if(std::begin(kUnits), std::end(kUnits),
                                     [&](const Unit& known) { return known.mark == text; });
-    if (!number || unit == std::end(kUnits)) return std::nullopt;
+    if (!number || !isDefined(*number) || unit == std::end(kUnits)) return std::nullopt;
     DateComponents amount;
     amount.*unit->field = *number;
     return amount;
