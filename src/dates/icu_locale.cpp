@@ -1,6 +1,7 @@
 #include "dates/icu_locale.h"
 
 #include <unicode/calendar.h>
+#include <unicode/numsys.h>
 #include <unicode/strenum.h>
 
 #include <memory>
@@ -34,10 +35,23 @@ bool hasPlainName(std::string_view identifier) {
                "0123456789_-.") == std::string_view::npos;
 }
 
+/// ICU makes no format with digits that it does not know.
+void dropUnknownDigits(icu::Locale& locale) {
+    const std::string_view name = locale.getName();
+    if (name.find("numbers=") == std::string_view::npos) return;
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::NumberingSystem> digits(
+        icu::NumberingSystem::createInstance(locale, status));
+    if (U_SUCCESS(status) != 0) return;
+    status = U_ZERO_ERROR;
+    locale.setKeywordValue("numbers", nullptr, status);
+}
+
 /// An unknown language would get the customs of the process's locale.
 icu::Locale knownLocale(const std::string& identifier) {
     if (!hasPlainName(identifier)) return icu::Locale::getRoot();
-    const icu::Locale locale = icu::Locale::createCanonical(identifier.c_str());
+    icu::Locale locale = icu::Locale::createCanonical(identifier.c_str());
+    dropUnknownDigits(locale);
     return *locale.getISO3Language() == '\0' ? icu::Locale::getRoot() : locale;
 }
 
