@@ -26,13 +26,19 @@ std::string asciiIdentifier(StringView identifier) {
     return ascii;
 }
 
-/// Whether everything in front of the keywords is made of letters and digits;
-/// ICU fails to make some formats for others.
+/// Whether everything in front of the keywords is made of parts of at most eight
+/// letters and digits; ICU fails to make some formats for others.
 bool hasPlainName(std::string_view identifier) {
-    const std::string_view name = identifier.substr(0, identifier.find('@'));
-    return name.find_first_not_of(
-               "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
-               "0123456789_-.") == std::string_view::npos;
+    constexpr std::size_t kLongestPart = 8;
+    std::size_t length = 0;
+    for (const char unit : identifier.substr(0, identifier.find_first_of("@."))) {
+        const char lower = static_cast<char>(unit | 0x20);
+        const bool isPlain = (lower >= 'a' && lower <= 'z') || (unit >= '0' && unit <= '9');
+        const bool isSeparator = unit == '_' || unit == '-';
+        length = isSeparator ? 0 : length + 1;
+        if (length > kLongestPart || !(isPlain || isSeparator)) return false;
+    }
+    return true;
 }
 
 /// ICU makes no format with digits that it does not know.

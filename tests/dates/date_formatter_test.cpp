@@ -66,6 +66,8 @@ TEST_CASE("styles and patterns are those of the locale") {
         {"the zone", u"de_DE", Style::None, Style::Long, u"14:05:00 MEZ"},
         {"nothing at all", u"de_DE", Style::None, Style::None, u""},
         {"a locale that is none", u"?", Style::Short, Style::None, u"2021-12-25"},
+        {"a part that is too long", u"de_AAAAAAAAEG", Style::None, Style::Full,
+         u"14:05:00 GMT+01:00"},
         {"digits and a calendar that are none", u"de_DE@numbers=jn;calendar=none", Style::Short,
          Style::None, u"25.12.21"},
         {"a name with more than letters", u"de_DEDcalendar=roc", Style::None, Style::Full,
