@@ -40,7 +40,7 @@ void useDates(StringView locale, StringView pattern, Date date, StringView typed
     formatter.setDateStyle(style);
     formatter.setTimeStyle(style);
     const bool isWithinReach = std::abs(date.secondsSince1970) <= 1.8e14;
-    require(formatter.stringFromDate(date).empty() != isWithinReach);
+    require(isWithinReach || formatter.stringFromDate(date).empty());
     formatDates(formatter, date, typed);
     formatDates(formatter.setDateStyleOrFormat(pattern), date, typed);
     (void)formatter.setCalendarIdentifier(pattern);
@@ -50,7 +50,7 @@ void useDates(StringView locale, StringView pattern, Date date, StringView typed
 void useNumbers(StringView locale, double number, StringView typed) {
     QZNumberFormatter formatter(locale);
     formatter.setNumberStyle(static_cast<NumberFormatterStyle>(typed.size() % 5));
-    require(!formatter.stringFromNumber(number).empty());
+    (void)formatter.stringFromNumber(number);
     formatter.setMinimum(-5);
     formatter.setMaximum(number);
     Value object(7);
