@@ -1,12 +1,12 @@
 #include "foundation/settings_files.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 
 #include "QZCore/foundation/files.h"
 #include "foundation/file_links.h"
@@ -25,6 +25,13 @@ bool isMissing(const std::string& path) {
 bool isPlainFile(const std::string& path) {
     struct ::stat standing = {};
     return ::lstat(path.c_str(), &standing) == 0 && S_ISREG(standing.st_mode);
+}
+
+/// The one name of the file that `path` leads to.
+std::string ownName(const std::string& path) {
+    std::error_code error;
+    const auto name = std::filesystem::weakly_canonical(path, error);
+    return error ? path : name.string();
 }
 
 PropertyListResult readDictionaryFile(const std::string& path) {
@@ -63,15 +70,16 @@ bool keepAside(const std::string& path) {
 
 PropertyListResult SettingsFiles::read(const std::string& path) {
     PropertyListResult result = readDictionaryFile(path);
-    std::erase(unreadable_, path);
-    if (!result.error.empty()) unreadable_.push_back(path);
+    const std::string file = ownName(path);
+    std::erase(unreadable_, file);
+    if (!result.error.empty()) unreadable_.push_back(file);
     return result;
 }
 
 bool SettingsFiles::write(const std::string& path, const Dictionary& entries) {
     const PropertyListData list = writePropertyList(Value(entries));
     if (!list.data || list.data->size() > kLargestFile) return false;
-    const auto unreadable = std::ranges::find(unreadable_, path);
+    const auto unreadable = std::ranges::find(unreadable_, ownName(path));
     if (unreadable != unreadable_.end()) {
         if (!keepAside(path)) return false;
         unreadable_.erase(unreadable);

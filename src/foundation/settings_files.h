@@ -24,7 +24,7 @@ public:
     [[nodiscard]] bool write(const std::string& path, const Dictionary& entries);
 
 private:
-    std::vector<std::string> unreadable_;
+    std::vector<std::string> unreadable_;  // by their own names, whatever links lead there
 };
 
 }  // namespace QZCore

@@ -9,28 +9,21 @@
 #include <thread>
 
 #include "QZCore/codecs/typed_access.h"
-#include "QZCore/foundation/files.h"
 #include "QZCore/foundation/property_list.h"
 #include "support/log_capture.h"
 #include "support/placeholders.h"
 #include "support/printing.h"
 #include "support/temporary_folder.h"
+#include "support/text_files.h"
 
 namespace QZCore {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::contentOf;
+using testing::writeText;
 
 URL urlOf(const std::string& path) { return URL::fromFilePath(path); }
-
-void writeText(const std::string& path, std::string_view text) {
-    REQUIRE(writeFileAtomically(path, bytesOf(text)));
-}
-
-std::string contentOf(const std::string& path) {
-    const auto bytes = readFile(path);
-    return bytes ? std::string(textOf(*bytes)) : "(unreadable)";
-}
 
 Value entriesOf(const QZSettings& settings) { return static_cast<const Dictionary&>(settings); }
 
@@ -104,22 +97,26 @@ TEST_CASE("a file that cannot be read changes nothing and is kept aside by the n
         const std::string file = folder / "inner/settings.plist";
         const std::string link = folder / "link.plist";
         fs::create_symlink("inner/settings.plist", link);
-        writeText(file, broken);
         QZSettings settings;
-        settings.setObject(1, u"a");
-        CHECK_FALSE(settings.loadWithContentsOfURL(urlOf(link)));
-        CHECK(entriesOf(settings) == Value(Dictionary{{u"a", 1}}));
-        CHECK_FALSE(settings.modified());
-        settings.setFileURL(urlOf(folder / "other.plist"));
-        CHECK(settings.save());
-        CHECK(contentOf(file) == broken);
+        std::string kept = file + ".unreadable-1";
+        for (const auto& [loaded, saved] : {std::pair(link, file), std::pair(file, link)}) {
+            REQUIRE(writeText(file, broken));
+            settings.setObject(1, u"a");
+            CHECK_FALSE(settings.loadWithContentsOfURL(urlOf(loaded)));
+            CHECK(entriesOf(settings) == Value(Dictionary{{u"a", 1}}));
+            CHECK_FALSE(settings.modified());
+            settings.setFileURL(urlOf(folder / "other.plist"));
+            CHECK(settings.save());
+            CHECK(contentOf(file) == broken);
 
-        settings.setFileURL(urlOf(link));
-        REQUIRE(settings.save());
-        REQUIRE(settings.save());
-        CHECK(contentOf(file + ".unreadable-1") == broken);
-        CHECK_FALSE(fs::exists(file + ".unreadable-2"));
-        CHECK(QZSettings().loadWithContentsOfURL(urlOf(link)));
+            settings.setFileURL(urlOf(saved));
+            REQUIRE(settings.save());
+            REQUIRE(settings.save());
+            CHECK(contentOf(kept) == broken);
+            ++kept.back();
+            CHECK_FALSE(fs::exists(kept));
+            CHECK(QZSettings().loadWithContentsOfURL(urlOf(link)));
+        }
         CHECK(fs::is_symlink(link));
         CHECK(log.lines().empty());
     }
@@ -132,15 +129,26 @@ TEST_CASE("what is no plain file is neither read nor replaced") {
     fs::create_symlink("circle", folder / "circle");
     std::ofstream(folder / "huge").put('x');
     fs::resize_file(folder / "huge", std::uintmax_t{1} << 40);
-    for (const char* name : {"folder", "pipe", "circle", "huge", "file/below"}) {
-        CAPTURE(name);
+    std::ofstream(folder / "file").put('x');
+    struct Row {
+        const char* name;
+        bool isRead = false;
+        bool isSaved = false;
+    };
+    const Row rows[] = {{"folder"},
+                        {"pipe"},
+                        {"circle"},
+                        {.name = "huge", .isSaved = true},
+                        {.name = "file/below", .isRead = true}};
+    for (const Row& row : rows) {
+        CAPTURE(row.name);
         QZSettings settings;
-        CHECK(settings.loadWithContentsOfURL(urlOf(folder / name)) == (name[4] == '/'));
+        CHECK(settings.loadWithContentsOfURL(urlOf(folder / row.name)) == row.isRead);
         CHECK(settings.count() == 0);
-        CHECK(settings.save() == (name[0] == 'h'));
+        CHECK(settings.save() == row.isSaved);
     }
     CHECK(fs::file_size(folder / "huge.unreadable-1") == std::uintmax_t{1} << 40);
-    CHECK(folder.count() == 5);
+    CHECK(folder.count() == 6);
     for (const char16_t* url : {u"", u"https://a/b", u"file:", u"file://host/a", u"file:///%zz"}) {
         QZSettings settings;
         CHECK_FALSE(settings.loadWithContentsOfURL(URL{url}));
