@@ -36,13 +36,14 @@ std::optional<Standing> standingOf(const fs::path& file) {
     return standing;
 }
 
-/// Gives the new file the permissions of the old one, and its owner, as far as
-/// the process may.
+/// Gives the new file the permissions of the old one, and its group and owner,
+/// each as far as the process may.
 bool takeOver(const OpenFile& file, const Standing& standing) {
+    constexpr auto kSame = static_cast<uid_t>(-1);
     if (!standing.replaces) return true;
-    const bool sameOwner =
-        ::fchown(file.descriptor(), standing.old.st_uid, standing.old.st_gid) == 0;
-    const mode_t kept = sameOwner ? 07777 : 0777;
+    const bool sameGroup = ::fchown(file.descriptor(), kSame, standing.old.st_gid) == 0;
+    const bool sameOwner = ::fchown(file.descriptor(), standing.old.st_uid, kSame) == 0;
+    const mode_t kept = sameGroup && sameOwner ? 07777 : 0777;
     return ::fchmod(file.descriptor(), standing.old.st_mode & kept) == 0;
 }
 

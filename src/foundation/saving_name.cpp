@@ -31,8 +31,13 @@ bool isSavingName(std::string_view name, std::string_view prefix) {
 
 fs::path nextSavingName(const fs::path& file) {
     static std::atomic<std::uint64_t> number = 0;
-    return file.parent_path() / (prefixFor(file) + std::to_string(::getpid()) + "-" +
-                                 std::to_string(number++) + std::string(kSuffix));
+    const std::string start = prefixFor(file) + std::to_string(::getpid()) + "-";
+    fs::path name;
+    std::error_code error;
+    do {
+        name = file.parent_path() / (start + std::to_string(number++) + std::string(kSuffix));
+    } while (fs::exists(fs::symlink_status(name, error)));
+    return name;
 }
 
 void removeStaleSavings(const fs::path& file) {

@@ -6,6 +6,7 @@
 namespace QZCore {
 
 /// A name beside `file` that no other save uses: ".NAME.PROCESS-NUMBER.saving".
+/// It is free: a stopped process may have had the same number as this one.
 [[nodiscard]] std::filesystem::path nextSavingName(const std::filesystem::path& file);
 
 /// Removes what stopped saves of `file` have left behind: files with such

@@ -2,25 +2,16 @@
 
 #include <thread>
 
-#include "QZCore/foundation/files.h"
 #include "QZCore/foundation/property_list.h"
 #include "support/log_capture.h"
 #include "support/printing.h"
 #include "support/temporary_folder.h"
+#include "support/text_files.h"
 
 namespace QZCore {
-namespace {
 
-bool writeText(const std::string& path, std::string_view text) {
-    return writeFileAtomically(path, bytesOf(text));
-}
-
-std::string contentOf(const std::string& path) {
-    const auto bytes = readFile(path);
-    return bytes ? std::string(textOf(*bytes)) : "(unreadable)";
-}
-
-}  // namespace
+using testing::contentOf;
+using testing::writeText;
 
 TEST_CASE("the default stands for an absent key only") {
     struct Row {
