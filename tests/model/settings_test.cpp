@@ -9,7 +9,6 @@
 #include <thread>
 
 #include "QZCore/codecs/typed_access.h"
-#include "QZCore/foundation/property_list.h"
 #include "support/log_capture.h"
 #include "support/placeholders.h"
 #include "support/printing.h"

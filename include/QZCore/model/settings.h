@@ -8,14 +8,13 @@
 // one thread at a time. Nothing is logged.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
-#include <vector>
 
 #include "QZCore/export.h"
 #include "QZCore/foundation/data.h"
 #include "QZCore/foundation/dictionary.h"
-#include "QZCore/foundation/text.h"
 #include "QZCore/foundation/value.h"
 
 namespace QZCore {
