@@ -36,6 +36,14 @@ std::optional<Standing> standingOf(const fs::path& file) {
     return standing;
 }
 
+/// Whether the file has the permissions now. A file system that knows only one
+/// kind of permissions gives it to every file.
+bool setPermissions(const OpenFile& file, mode_t permissions) {
+    if (::fchmod(file.descriptor(), permissions) == 0) return true;
+    struct ::stat given = {};
+    return ::fstat(file.descriptor(), &given) == 0 && (given.st_mode & 07777) == permissions;
+}
+
 /// Gives the new file the permissions of the old one, and its group and owner,
 /// each as far as the process may.
 bool takeOver(const OpenFile& file, const Standing& standing) {
@@ -44,7 +52,7 @@ bool takeOver(const OpenFile& file, const Standing& standing) {
     const bool sameGroup = ::fchown(file.descriptor(), kSame, standing.old.st_gid) == 0;
     const bool sameOwner = ::fchown(file.descriptor(), standing.old.st_uid, kSame) == 0;
     const mode_t kept = sameGroup && sameOwner ? 07777 : 0777;
-    return ::fchmod(file.descriptor(), standing.old.st_mode & kept) == 0;
+    return setPermissions(file, standing.old.st_mode & kept);
 }
 
 bool flushFolder(const fs::path& folder) {
