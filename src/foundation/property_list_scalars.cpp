@@ -11,7 +11,6 @@
 namespace QZCore {
 namespace {
 
-
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\n\r";
     const std::size_t first = text.find_first_not_of(kBlanks);
